@@ -1,0 +1,136 @@
+// varnelt-cli: the system without forms. Starts as the program does, fires events by control name,
+// and prints the state, the summary or the project.
+//
+//   varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [--json | --summary | --detail] [--save PATH]
+//
+// Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
+// calculation error.
+#include <unistd.h>
+
+#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/project_text.h"
+#include "core/events.h"
+#include "core/json.h"
+#include "core/startup.h"
+#include "core/state.h"
+#include "results/summary.h"
+
+namespace {
+
+const char* kUsage =
+    "usage: varnelt-cli [PROJECT.vnt] [options]\n"
+    "  --do CONTROL[=TEXT]  fire one event of a form control, e.g. --do il=6,0 --do cbutt2\n"
+    "                       --do p04.cbo=9 --do \"Loading.iq(1)=12\" (repeatable, run in order)\n"
+    "  --json               print the whole state as JSON\n"
+    "  --summary            print the summary of controls\n"
+    "  --detail             print the table of detailed results\n"
+    "  --save PATH          save the project to PATH\n"
+    "  --decimal-comma      parse and print numbers as a decimal-comma locale does\n"
+    "  --decimal-point      parse and print numbers as a decimal-point locale does\n"
+    "  --data DIR           read the data files from DIR instead of the program's folder\n"
+    "  --controls           list the names of all controls\n"
+    "  --help               this text\n";
+
+std::string ProgramFolder(const char* argv0) {
+  char buf[PATH_MAX];
+  ssize_t n = readlink("/proc/self/exe", buf, sizeof buf - 1);
+  std::string path = n > 0 ? std::string(buf, static_cast<size_t>(n)) : std::string(argv0);
+  auto slash = path.rfind('/');
+  return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::string projectPath, savePath, dataDir;
+  std::vector<std::string> events;
+  enum class Out { Project, Json, Summary, Detail, Controls } out = Out::Project;
+  int decimal = -1;  // -1 from the locale
+  for (int i = 1; i < argc; ++i) {
+    std::string a = argv[i];
+    auto next = [&](const char* what) -> std::string {
+      if (i + 1 >= argc) {
+        std::cerr << "varnelt-cli: " << a << " needs " << what << "\n" << kUsage;
+        std::exit(2);
+      }
+      return argv[++i];
+    };
+    if (a == "--do") events.push_back(next("CONTROL[=TEXT]"));
+    else if (a.rfind("--do=", 0) == 0) events.push_back(a.substr(5));
+    else if (a == "--json") out = Out::Json;
+    else if (a == "--summary") out = Out::Summary;
+    else if (a == "--detail") out = Out::Detail;
+    else if (a == "--controls") out = Out::Controls;
+    else if (a == "--save") savePath = next("PATH");
+    else if (a == "--data") dataDir = next("DIR");
+    else if (a == "--decimal-comma") decimal = 1;
+    else if (a == "--decimal-point") decimal = 0;
+    else if (a == "--help" || a == "-h") {
+      std::cout << kUsage;
+      return 0;
+    } else if (!a.empty() && a[0] == '-') {
+      std::cerr << "varnelt-cli: unknown option " << a << "\n" << kUsage;
+      return 2;
+    } else if (projectPath.empty()) {
+      projectPath = a;
+    } else {
+      std::cerr << "varnelt-cli: more than one project file given\n";
+      return 2;
+    }
+  }
+
+  if (out == Out::Controls) {
+    for (const std::string& n : vn::Controls().Names()) std::cout << n << "\n";
+    return 0;
+  }
+
+  vn::State s;
+  const bool comma = decimal < 0 ? vn::DetectDecimalComma() : decimal == 1;
+  vn::StartUp(s, dataDir.empty() ? ProgramFolder(argv[0]) : dataDir, comma);
+
+  if (!projectPath.empty()) {
+    std::string error;
+    if (!vn::cli::OpenProject(s, projectPath, &error)) {
+      std::cerr << error << "\n";
+      return 3;
+    }
+  }
+
+  for (const std::string& e : events) {
+    auto eq = e.find('=');
+    std::string control = e.substr(0, eq);
+    std::string text = eq == std::string::npos ? std::string() : e.substr(eq + 1);
+    vn::EventResult r = vn::Fire(s, control, text);
+    if (!r.known) {
+      std::cerr << "varnelt-cli: unknown control '" << control << "'\n";
+      return 2;
+    }
+    if (r.refused) {
+      std::cerr << r.message << "\n";
+      return 2;
+    }
+  }
+
+  if (!savePath.empty()) {
+    std::string error;
+    if (!vn::cli::SaveProject(s, savePath, &error)) {
+      std::cerr << error << "\n";
+      return 3;
+    }
+  }
+
+  switch (out) {
+    case Out::Json: std::cout << vn::StateToJson(s) << "\n"; break;
+    case Out::Summary: std::cout << vn::SummaryText(s); break;
+    case Out::Detail: std::cout << vn::cli::DetailText(s); break;
+    case Out::Project: std::cout << vn::cli::ProjectText(s); break;
+    case Out::Controls: break;
+  }
+  return s.view.txtErrorVisible ? 1 : 0;
+}

@@ -1,0 +1,13 @@
+// Every form's registration of its controls. Each subsystem defines the function of its forms;
+// RegisterAllControls calls them all.
+#pragma once
+
+namespace vn {
+
+class ControlTable;
+
+void RegisterMainFormControls(ControlTable& t);
+
+void RegisterAllControls(ControlTable& t);
+
+}  // namespace vn

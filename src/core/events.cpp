@@ -1,0 +1,170 @@
+#include "core/events.h"
+
+#include <cctype>
+#include <charconv>
+
+#include "core/control_registry.h"
+#include "core/format.h"
+#include "core/recalculate.h"
+#include "core/state.h"
+
+namespace vn {
+
+void ControlTable::Add(ControlEntry e) { entries_.push_back(std::move(e)); }
+
+const ControlEntry* ControlTable::Find(std::string_view control, int* index) const {
+  std::string_view form, name = control;
+  if (auto dot = control.find('.'); dot != std::string_view::npos) {
+    form = control.substr(0, dot);
+    name = control.substr(dot + 1);
+  }
+  int idx = -1;
+  if (auto open = name.find('('); open != std::string_view::npos) {
+    if (name.back() != ')') return nullptr;
+    std::string_view digits = name.substr(open + 1, name.size() - open - 2);
+    auto [ptr, ec] = std::from_chars(digits.data(), digits.data() + digits.size(), idx);
+    if (ec != std::errc() || ptr != digits.data() + digits.size()) return nullptr;
+    name = name.substr(0, open);
+  }
+  const ControlEntry* found = nullptr;
+  int matches = 0;
+  for (const ControlEntry& e : entries_) {
+    if (e.name != name) continue;
+    if (!form.empty() && e.form != form) continue;
+    if (form.empty() && e.form.empty()) {  // the main form's wins a shared bare name
+      found = &e;
+      matches = 1;
+      break;
+    }
+    if (!found) found = &e;
+    ++matches;
+  }
+  if (!found) return nullptr;
+  if (form.empty() && matches > 1 && !found->form.empty()) return nullptr;  // ambiguous
+  if (found->firstIndex >= 0) {
+    if (idx < found->firstIndex || idx > found->lastIndex) return nullptr;
+  } else if (idx != -1) {
+    return nullptr;
+  }
+  if (index) *index = idx;
+  return found;
+}
+
+std::vector<std::string> ControlTable::Names() const {
+  std::vector<std::string> names;
+  for (const ControlEntry& e : entries_) {
+    std::string n = e.form.empty() ? e.name : e.form + "." + e.name;
+    if (e.firstIndex >= 0)
+      n += "(" + std::to_string(e.firstIndex) + ".." + std::to_string(e.lastIndex) + ")";
+    names.push_back(n);
+  }
+  return names;
+}
+
+const ControlTable& Controls() {
+  static const ControlTable table = [] {
+    ControlTable t;
+    RegisterAllControls(t);
+    return t;
+  }();
+  return table;
+}
+
+EventResult Fire(State& s, std::string_view control, std::string_view text) {
+  int index = -1;
+  const ControlEntry* e = Controls().Find(control, &index);
+  if (!e) {
+    EventResult r;
+    r.known = false;
+    r.refused = true;
+    r.message = "Unknown control: " + std::string(control);
+    return r;
+  }
+  int before = s.recalcCount;
+  EventResult r = e->run(s, index, text);
+  r.recalculated = s.recalcCount != before;
+  s.view.lastMessage = r.message;
+  return r;
+}
+
+EventResult RunNumericField(State& s, const std::string& self, const NumericField& f,
+                            std::string_view text) {
+  EventResult r;
+  bool mismatch = false, overflow = false;
+  Single v = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
+  if (mismatch) {
+    // Run-time error 13: the record keeps its old value and the focus returns.
+    if (f.mismatchMessage) {
+      r.refused = true;
+      r.message = kMismatchText;
+      r.focus = self;
+    }
+    r.text = std::string(text);
+    return r;
+  }
+  if (overflow) {
+    // Any other run-time error shows nothing: the field is left, the record keeps its value.
+    r.text = std::string(text);
+    return r;
+  }
+  double stored = v;
+  if (f.integer) {
+    bool intOverflow = false;
+    Integer i = RoundToInteger(v, &intOverflow);
+    if (intOverflow) {
+      // Any other run-time error shows nothing: the field is left, the record keeps its value.
+      r.text = std::string(text);
+      return r;
+    }
+    stored = i;
+  }
+  // Stored before the test: a refused value stays in the record until it is corrected.
+  f.store(s, stored);
+  r.text = FormatNumber(f.value(s), f.format, s.decimalComma);
+  if (f.valid && !f.valid(s, f.value(s))) {
+    r.refused = true;
+    r.message = f.message;
+    r.focus = self;
+    return r;
+  }
+  r.focus = f.enter;
+  if (f.after)
+    f.after(s);
+  else
+    Recalculate(s);
+  return r;
+}
+
+}  // namespace vn
+
+namespace vn {
+
+void AddNumericField(ControlTable& t, const std::string& form, const std::string& name,
+                     NumericField f) {
+  std::string self = form.empty() ? name : form + "." + name;
+  t.Add({form, name, -1, -1, [self, f](State& s, int, std::string_view text) {
+           EventResult r = RunNumericField(s, self, f, text);
+           s.view.text[self] = r.text;
+           return r;
+         }});
+}
+
+void AddControl(ControlTable& t, const std::string& form, const std::string& name,
+                ControlHandler run, int firstIndex, int lastIndex) {
+  t.Add({form, name, firstIndex, lastIndex, std::move(run)});
+}
+
+}  // namespace vn
+
+namespace vn {
+
+int ChoiceIndex(std::string_view text) {
+  while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
+  while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
+  int v = -1;
+  auto [ptr, ec] = std::from_chars(text.data(), text.data() + text.size(), v);
+  if (ec != std::errc() || ptr != text.data() + text.size()) return -1;
+  return v;
+}
+
+}  // namespace vn

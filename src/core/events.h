@@ -1,0 +1,101 @@
+// One table of controls: every input of every form is an entry, fired by its name.
+//   Fire(s, "il", "6,0")          a numeric field left with the text typed
+//   Fire(s, "cbutt2")             a button, option or menu entry
+//   Fire(s, "Loading.iq(2)", "5") a control of a dialog, slot 2 of a control array
+// The forms, the command line and the tests all go through here.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vn {
+
+struct State;
+
+struct EventResult {
+  bool known = true;         // false: no control of that name
+  bool refused = false;      // a warning box was shown (message below)
+  std::string message;       // text of the warning box, empty if none
+  std::string focus;         // control that gets the focus afterwards ("" = unchanged)
+  std::string text;          // the field's text after the event (reformatted value)
+  bool recalculated = false; // Recalculate ran at least once
+};
+
+using ControlHandler = std::function<EventResult(State& s, int index, std::string_view text)>;
+
+struct ControlEntry {
+  std::string form;  // "" the main form, else the dialog: "Loading", "setup", "p04" ...
+  std::string name;  // "il", "iq", "cbutt2"
+  int firstIndex = -1, lastIndex = -1;  // a control array takes indices firstIndex..lastIndex
+  ControlHandler run;
+};
+
+class ControlTable {
+ public:
+  void Add(ControlEntry e);
+  // Finds a control by "name", "name(i)", "form.name" or "form.name(i)". A bare name that several
+  // forms share means the main form's.
+  const ControlEntry* Find(std::string_view control, int* index) const;
+  std::vector<std::string> Names() const;
+
+ private:
+  std::vector<ControlEntry> entries_;
+};
+
+// The table with the controls of every form, built once.
+const ControlTable& Controls();
+
+// Fires one event. An unknown control gives known = false and changes nothing.
+EventResult Fire(State& s, std::string_view control, std::string_view text = {});
+
+// ---- The protocol of a numeric field, shared by every form ----
+
+struct NumericField {
+  const char* format = "#0.00";
+  bool integer = false;  // an Integer field: rounds halves to even, overflow is silent
+  std::function<void(State&, double)> store;
+  std::function<double(const State&)> value;
+  std::function<bool(const State&, double)> valid;  // nullptr: no range test
+  std::string message;                              // warning text when not valid
+  std::string enter;                                // control the Enter key moves to
+  std::function<void(State&)> after;                // what runs after a valid value
+  bool mismatchMessage = true;                      // false: a mismatch shows nothing
+};
+
+// Parse, store before the test, reformat, test, then recalculate or refuse with the message.
+EventResult RunNumericField(State& s, const std::string& self, const NumericField& f,
+                            std::string_view text);
+
+// Registration of the controls of each form; each subsystem adds its own.
+void RegisterMainFormControls(ControlTable& t);
+
+inline constexpr const char* kMismatchText = "Input string mismatch ";
+
+}  // namespace vn
+
+namespace vn {
+
+// Adds a numeric field with the protocol above; `form` is "" for the main form.
+void AddNumericField(ControlTable& t, const std::string& form, const std::string& name,
+                     NumericField f);
+// Adds a button, option, check box, list or menu entry.
+void AddControl(ControlTable& t, const std::string& form, const std::string& name,
+                ControlHandler run, int firstIndex = -1, int lastIndex = -1);
+
+}  // namespace vn
+
+namespace vn {
+
+// The index chosen in a list or the state of a check box (1 or 0), as the event's text gives it.
+// A text that is no whole number gives -1.
+int ChoiceIndex(std::string_view text);
+
+// Main form handlers that other paths run too (RefreshMainForm sets the controls and their events
+// fire; the end forces mode sets the support).
+void OnSupportButton(State& s, int type);
+void OnLtbCheck(State& s, bool checked);
+EventResult OnModalCheck(State& s, bool checked);
+
+}  // namespace vn

@@ -1,0 +1,95 @@
+// Every field of the records under its own name, for the JSON view of the state and for tests that
+// set a field by name. A record lists its fields once, here; a new field is added to its visitor.
+#pragma once
+
+#include "core/state.h"
+
+namespace vn {
+
+#define VN_F(rec, name) v(#name, rec.name)
+
+template <class V, class P>
+void VisitProject(V& v, P& p) {
+  VN_F(p, fileName); VN_F(p, projectName); VN_F(p, projectIdent);
+  VN_F(p, ProfileType); VN_F(p, profileName); VN_F(p, figureNotToScale);
+  VN_F(p, rhsTurned); VN_F(p, hsqKind); VN_F(p, angleOption);
+  VN_F(p, SelectedRow); VN_F(p, subFamily101); VN_F(p, subFamily103);
+  v.Object("p21", [&] { VN_F(p.p21, isth); VN_F(p.p21, istb1); VN_F(p.p21, isttw); VN_F(p.p21, isttf); });
+  v.Object("p22", [&] { auto& q = p.p22; VN_F(q, isth); VN_F(q, istb1); VN_F(q, istb2); VN_F(q, isttw); VN_F(q, isttf1); VN_F(q, isttf2); });
+  v.Object("p23", [&] { auto& q = p.p23; VN_F(q, isth); VN_F(q, istb1); VN_F(q, isttw); VN_F(q, isttf); VN_F(q, ista); VN_F(q, oweld); });
+  v.Object("p24", [&] { auto& q = p.p24; VN_F(q, isth); VN_F(q, istb1); VN_F(q, istb2); VN_F(q, isttw); VN_F(q, isttf1); VN_F(q, isttf2); VN_F(q, c); VN_F(q, iload); VN_F(q, classOption); });
+  v.Object("p25", [&] { auto& q = p.p25; VN_F(q, isth); VN_F(q, istb1); VN_F(q, istb2); VN_F(q, isttw); VN_F(q, isttf1); VN_F(q, isttf2); VN_F(q, istc); VN_F(q, classOption); });
+  v.Object("p26", [&] { auto& q = p.p26; VN_F(q, isth); VN_F(q, istb1); VN_F(q, isttw); VN_F(q, isttf1); });
+  v.Object("p27", [&] { auto& q = p.p27; VN_F(q, isth); VN_F(q, istb1); VN_F(q, istb2); VN_F(q, isttw); VN_F(q, isttf1); VN_F(q, isttf2); VN_F(q, istc); });
+  v.Object("p28", [&] { auto& q = p.p28; VN_F(q, isth); VN_F(q, isttw); });
+  v.Object("p31", [&] { auto& q = p.p31; VN_F(q, istd); VN_F(q, isttw); VN_F(q, hotCold); });
+  v.Object("p41", [&] {
+    auto& q = p.p41;
+    VN_F(q, name); VN_F(q, classN); VN_F(q, classMy); VN_F(q, classMz);
+    VN_F(q, istax); VN_F(q, istay); VN_F(q, istaz); VN_F(q, istix); VN_F(q, istiy); VN_F(q, istiz);
+    VN_F(q, istiw); VN_F(q, istwely); VN_F(q, istwelz); VN_F(q, istwply); VN_F(q, istwplz);
+  });
+  v.Object("p51", [&] { auto& q = p.p51; VN_F(q, isth); VN_F(q, istb1); VN_F(q, isttw); VN_F(q, isttf1); });
+  v.Object("p52", [&] { auto& q = p.p52; VN_F(q, istb1); VN_F(q, istt1); });
+  v.Object("p53", [&] { auto& q = p.p53; VN_F(q, isth); VN_F(q, istb1); VN_F(q, istb2); VN_F(q, isttw); VN_F(q, isttf1); VN_F(q, isttf2); });
+  v.Object("p54", [&] { auto& q = p.p54; VN_F(q, istb1); VN_F(q, istt1); });
+  v.Object("p55", [&] { auto& q = p.p55; VN_F(q, v1); VN_F(q, v2); VN_F(q, v3); VN_F(q, v4); VN_F(q, v5); VN_F(q, v6); });
+  v.Object("p56", [&] { auto& q = p.p56; VN_F(q, isth); VN_F(q, istb1); VN_F(q, istb2); VN_F(q, isttw); VN_F(q, isttf1); VN_F(q, isttf2); });
+
+  VN_F(p, steelGrade); VN_F(p, fyk); VN_F(p, E); VN_F(p, rho); VN_F(p, epsilon); VN_F(p, fyd);
+  VN_F(p, L); VN_F(p, bucklingFactorY); VN_F(p, bucklingFactorZ); VN_F(p, bucklingCaseY);
+  VN_F(p, bucklingCaseZ); VN_F(p, bucklingCurveY); VN_F(p, bucklingCurveZ);
+  VN_F(p, SupportType); VN_F(p, SpringPct); VN_F(p, rigidEndPost); VN_F(p, webStiffeners); VN_F(p, a);
+  VN_F(p, ltbOn); VN_F(p, ltbCase); VN_F(p, ltbFactor); VN_F(p, ltbRestraints); VN_F(p, ltbPart);
+  VN_F(p, ltbUserC); VN_F(p, ltbUserC1); VN_F(p, ltbCurve); VN_F(p, ltbLoadLevel); VN_F(p, ltbZa);
+  VN_F(p, ltbC1); VN_F(p, ltbC2); VN_F(p, ltbC3);
+  VN_F(p, AnalysisMode); VN_F(p, chModal); VN_F(p, checkSLS); VN_F(p, deflectionLimit);
+  VN_F(p, LoadCombMode); VN_F(p, SelfweightOn); VN_F(p, ChPointMode); VN_F(p, ChPointCount);
+  VN_F(p, ChPointRelative); VN_F(p, ChPointX);
+  VN_F(p, NEndForce); VN_F(p, My12); VN_F(p, Mz12); VN_F(p, Vy12); VN_F(p, Vz12);
+  VN_F(p, reserved1); VN_F(p, reserved2); VN_F(p, reserved3); VN_F(p, reserved4);
+  VN_F(p, reserved5); VN_F(p, reserved6);
+  VN_F(p, codeId); VN_F(p, codeIndex); VN_F(p, gammaM0); VN_F(p, gammaM1); VN_F(p, neta);
+  VN_F(p, interactionMethod); VN_F(p, lamdaLT0); VN_F(p, beta); VN_F(p, lamdaLT0w); VN_F(p, betaw);
+  VN_F(p, uflimit); VN_F(p, elasticClass12); VN_F(p, conserControl); VN_F(p, noFlangeBuckling);
+  VN_F(p, noWebBuckling); VN_F(p, safetyClass); VN_F(p, psiQ1Index); VN_F(p, psiQ2Index);
+  VN_F(p, psiQ1); VN_F(p, psiQ2); VN_F(p, LfULS_G); VN_F(p, LfULS_Q1); VN_F(p, LfULS_Q2);
+  VN_F(p, LfSLS_G); VN_F(p, LfSLS_Q1); VN_F(p, LfSLS_Q2);
+  VN_F(p, calcError);
+}
+
+template <class V, class L>
+void VisitLoads(V& v, L& l) {
+  v.Array("AxialLoad", l.axial, [&](auto& r) { VN_F(r, N); VN_F(r, Case); VN_F(r, Checked); });
+  v.Array("UniformLoad", l.uniform, [&](auto& r) { VN_F(r, q); VN_F(r, Case); VN_F(r, Dir); VN_F(r, Checked); });
+  v.Array("TrapezoidLoad", l.trapezoid, [&](auto& r) {
+    VN_F(r, q1); VN_F(r, q2); VN_F(r, x1); VN_F(r, x2); VN_F(r, Case); VN_F(r, Dir); VN_F(r, Checked);
+  });
+  v.Array("PointLoad", l.point, [&](auto& r) {
+    VN_F(r, Kind); VN_F(r, Value); VN_F(r, x); VN_F(r, Case); VN_F(r, Dir); VN_F(r, Checked);
+  });
+  VN_F(l, PointLoadXRelative); VN_F(l, TrapezoidXRelative);
+}
+
+template <class V, class S>
+void VisitSection(V& v, S& c) {
+  VN_F(c, h); VN_F(c, b); VN_F(c, tf); VN_F(c, tw); VN_F(c, r); VN_F(c, ri); VN_F(c, r1); VN_F(c, r2);
+  VN_F(c, hw); VN_F(c, d); VN_F(c, c); VN_F(c, tmax); VN_F(c, b1); VN_F(c, tf1); VN_F(c, b2);
+  VN_F(c, tf2); VN_F(c, hweb); VN_F(c, ey); VN_F(c, em);
+  VN_F(c, A); VN_F(c, Af); VN_F(c, Aw); VN_F(c, Iy); VN_F(c, Iz); VN_F(c, IzDefl); VN_F(c, Ix);
+  VN_F(c, Iw); VN_F(c, Iu); VN_F(c, Iv); VN_F(c, alfa); VN_F(c, Wely); VN_F(c, Welz); VN_F(c, Wply);
+  VN_F(c, Wplz); VN_F(c, Wyt); VN_F(c, Wyb); VN_F(c, Wzl); VN_F(c, Wzr); VN_F(c, Wumin);
+  VN_F(c, Wvmin); VN_F(c, Wy); VN_F(c, Wz); VN_F(c, Aeff); VN_F(c, Weffy); VN_F(c, Weffz);
+  VN_F(c, Avy); VN_F(c, Avz); VN_F(c, ez); VN_F(c, eyc); VN_F(c, g); VN_F(c, S);
+  VN_F(c, classN); VN_F(c, classMy); VN_F(c, classMz); VN_F(c, classFlange); VN_F(c, classWeb);
+  VN_F(c, NcRd); VN_F(c, NtRd); VN_F(c, MplyRd); VN_F(c, MplzRd); VN_F(c, MelyRd); VN_F(c, MelzRd);
+  VN_F(c, MeffyRd); VN_F(c, MeffzRd); VN_F(c, MyRdClass); VN_F(c, MzRdClass); VN_F(c, MfyRd);
+  VN_F(c, MfzRd); VN_F(c, VyRd); VN_F(c, VzRd); VN_F(c, VplRd); VN_F(c, VbyRd); VN_F(c, VbzRd);
+  VN_F(c, NRdBuck); VN_F(c, MyRdBuck); VN_F(c, MzRdBuck);
+  v.Array("Outline", c.Outline, [&](auto& pt) { VN_F(pt, x); VN_F(pt, y); });
+  VN_F(c, OutlineCount); VN_F(c, OutlineInnerLast); VN_F(c, OutlineRects); VN_F(c, FigHeight);
+  VN_F(c, FigWidth); VN_F(c, FigCentroidZ); VN_F(c, FigCentroidY); VN_F(c, ltbRelevant);
+  VN_F(c, channelKind);
+}
+
+}  // namespace vn

@@ -1,0 +1,284 @@
+// The controls of the main form and the refresh that copies the record into it.
+#include <cmath>
+
+#include "core/control_registry.h"
+#include "core/events.h"
+#include "core/format.h"
+#include "core/recalculate.h"
+#include "core/state.h"
+#include "design/design_basis.h"
+#include "sections/dispatch.h"
+
+namespace vn {
+
+namespace {
+
+const char* const kLoadCombTexts[6] = {"EN 1990 Eq 6.10",    "EN 1990 Eq 6.10a",
+                                       "EN 1990 Eq 6.10b",   "EN 1990 Eq 6.10a/b",
+                                       "ULS/SLS",            "Basic loads"};
+const char* const kCurveTexts[6] = {"Auto", "a0", "a", "b", "c", "d"};
+
+float LtbFactorOfCase(int ltbCase) {
+  switch (ltbCase) {
+    case 1: return 2.0f;
+    case 2: return 1.0f;
+    case 3: return 0.7f;
+    case 4: return 0.5f;
+  }
+  return 1.0f;
+}
+
+// Picture of the buckling button: dialog button 1 for 2.0, 2 for 1.0, 3 for 0.7, 4 for 0.5, else
+// 6; case 5 shows button 5. The factor is compared exactly, as a Single.
+int BucklingPicture(Single factor, Integer bucklingCase) {
+  int pic = 6;
+  if (factor == 2.0f) pic = 1;
+  else if (factor == 1.0f) pic = 2;
+  else if (factor == 0.7f) pic = 3;
+  else if (factor == 0.5f) pic = 4;
+  if (bucklingCase == 5) pic = 5;
+  return pic;
+}
+
+void AfterFykChange(State& s) {
+  Recalculate(s);
+  // fyk changes neta, which is re-derived after the run.
+  SetCodeFactors(s, s.project.codeIndex);
+  RebuildCombinationList(s);
+}
+
+EventResult Recalculated(State& s) {
+  Recalculate(s);
+  return {};
+}
+
+}  // namespace
+
+void OnSupportButton(State& s, int type) {
+  Project& p = s.project;
+  View& v = s.view;
+  p.SupportType = static_cast<Integer>(type);
+  v.value["cbutt"] = type;
+  const bool spring = type == 3 || type == 5;
+  v.visible["ispring"] = spring;
+  if (spring) v.text["ispring"] = FormatNumber(p.SpringPct, "#0", s.decimalComma);
+  if (p.bucklingCaseY < 5) {
+    p.bucklingCaseY = 2;
+    p.bucklingFactorY = 1.0f;
+  }
+  if (p.bucklingCaseZ < 5) {
+    p.bucklingCaseZ = 2;
+    p.bucklingFactorZ = 1.0f;
+  }
+  v.text["ibly"] = FormatNumber(p.bucklingFactorY, "#0.00", s.decimalComma);
+  v.text["iblz"] = FormatNumber(p.bucklingFactorZ, "#0.00", s.decimalComma);
+  v.value["cbuttbucklingy"] = BucklingPicture(p.bucklingFactorY, p.bucklingCaseY);
+  v.value["cbuttbucklingz"] = BucklingPicture(p.bucklingFactorZ, p.bucklingCaseZ);
+}
+
+void OnLtbCheck(State& s, bool checked) {
+  Project& p = s.project;
+  s.view.value["ch_vipp"] = checked ? 1 : 0;
+  p.ltbOn = checked ? 1 : 0;
+  if (checked) {
+    p.ltbFactor = LtbFactorOfCase(p.ltbCase);
+  } else {
+    p.ltbFactor = 0.001f;
+    p.ltbRestraints = 0;
+  }
+}
+
+EventResult OnModalCheck(State& s, bool checked) {
+  Project& p = s.project;
+  EventResult r;
+  if (checked && (p.SupportType == 3 || p.SupportType == 5)) {
+    r.refused = true;
+    r.message = " Modal analysis not possible for spring supports ";
+    checked = false;
+  }
+  s.view.value["ch_modal"] = checked ? 1 : 0;
+  p.chModal = checked ? 1 : 0;
+  s.view.visible["cmd_modresult"] = checked;
+  return r;
+}
+
+void RegisterMainFormControls(ControlTable& t) {
+  // Free text fields: no test, no recalculation.
+  AddControl(t, "", "iproj", [](State& s, int, std::string_view text) {
+    s.project.projectName = std::string(text);
+    s.view.text["iproj"] = s.project.projectName;
+    EventResult r;
+    r.focus = "iident";
+    return r;
+  });
+  AddControl(t, "", "iident", [](State& s, int, std::string_view text) {
+    s.project.projectIdent = std::string(text);
+    s.view.text["iident"] = s.project.projectIdent;
+    EventResult r;
+    r.focus = "cbofyk";
+    return r;
+  });
+
+  AddNumericField(t, "", "ifyk",
+                  {"#00", false, [](State& s, double v) { s.project.fyk = static_cast<Single>(v); },
+                   [](const State& s) { return double(s.project.fyk); },
+                   [](const State&, double v) { return v >= 50 && v <= 2000; },
+                   " 50 <= fyk <= 2000 ", "il", AfterFykChange});
+  AddNumericField(t, "", "il",
+                  {"#0.000", false, [](State& s, double v) { s.project.L = static_cast<Single>(v); },
+                   [](const State& s) { return double(s.project.L); },
+                   [](const State&, double v) { return v >= 0.05; }, " L >= 0.050 ", "ibly", nullptr});
+  AddNumericField(t, "", "ibly",
+                  {"#0.00", false,
+                   [](State& s, double v) { s.project.bucklingFactorY = static_cast<Single>(v); },
+                   [](const State& s) { return double(s.project.bucklingFactorY); },
+                   [](const State&, double v) { return v >= 0.2; },
+                   " Buckling length factor Y-axis >= 0.2 ", "iblz",
+                   [](State& s) {
+                     s.project.bucklingCaseY = 6;
+                     Recalculate(s);
+                   }});
+  AddNumericField(t, "", "iblz",
+                  {"#0.00", false,
+                   [](State& s, double v) { s.project.bucklingFactorZ = static_cast<Single>(v); },
+                   [](const State& s) { return double(s.project.bucklingFactorZ); },
+                   [](const State&, double v) { return v >= 0.2; },
+                   " Buckling length factor Z-axis >= 0.2 ", "iproj",
+                   [](State& s) {
+                     s.project.bucklingCaseZ = 6;
+                     Recalculate(s);
+                   }});
+  AddNumericField(t, "", "ispring",
+                  {"#0", true,
+                   [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
+                   [](const State& s) { return double(s.project.SpringPct); },
+                   [](const State&, double v) { return v >= 0 && v <= 100; },
+                   " 1 < Spring-restraint  > 99 ", "il", nullptr});
+  AddNumericField(t, "", "idef_limit",
+                  {"#0", true,
+                   [](State& s, double v) { s.project.deflectionLimit = static_cast<Integer>(v); },
+                   [](const State& s) { return double(s.project.deflectionLimit); },
+                   [](const State&, double v) { return v >= 100 && v <= 1500; },
+                   "100 <= Deflection <=1500 ", "ch_modal", nullptr});
+
+  for (int type = 0; type <= 5; ++type) {
+    AddControl(t, "", "cbutt" + std::to_string(type), [type](State& s, int, std::string_view) {
+      OnSupportButton(s, type);
+      Recalculate(s);
+      EventResult r;
+      if (type == 3 || type == 5) r.focus = "ispring";
+      return r;
+    });
+  }
+
+  AddControl(t, "", "cbofyk", [](State& s, int, std::string_view text) {
+    Project& p = s.project;
+    int index = ChoiceIndex(text);
+    if (index < 0 || index > 30) {
+      EventResult r;
+      r.refused = true;
+      r.message = "No such steel grade: " + std::string(text);
+      return r;
+    }
+    p.steelGrade = static_cast<Integer>(index);
+    s.view.value["cbofyk"] = index;
+    if (index == s.steel.gradeLast) {
+      s.view.enabled["ifyk"] = true;
+    } else {
+      SelectYieldStrength(s, p.steelGrade);
+      s.view.enabled["ifyk"] = false;
+      s.view.text["ifyk"] = FormatNumber(p.fyk, "#000", s.decimalComma);
+    }
+    AfterFykChange(s);
+    return EventResult{};
+  });
+
+  auto list = [&t](const char* name, int count, auto store) {
+    AddControl(t, "", name, [name, count, store](State& s, int, std::string_view text) {
+      int index = ChoiceIndex(text);
+      if (index < 0 || index >= count) {
+        EventResult r;
+        r.refused = true;
+        r.message = std::string("No such item of ") + name + ": " + std::string(text);
+        return r;
+      }
+      store(s, index);
+      s.view.value[name] = index;
+      return Recalculated(s);
+    });
+  };
+  list("cbobcy", 6, [](State& s, int i) { s.project.bucklingCurveY = static_cast<Integer>(i); });
+  list("cbobcz", 6, [](State& s, int i) { s.project.bucklingCurveZ = static_cast<Integer>(i); });
+  list("CboLoadComb", 6, [](State& s, int i) { s.project.LoadCombMode = static_cast<Integer>(i); });
+
+  AddControl(t, "", "CheckSLS", [](State& s, int, std::string_view text) {
+    bool on = ChoiceIndex(text) == 1;
+    s.project.checkSLS = ToBoolean(on);
+    s.view.value["CheckSLS"] = on ? 1 : 0;
+    return Recalculated(s);
+  });
+  AddControl(t, "", "ch_vipp", [](State& s, int, std::string_view text) {
+    OnLtbCheck(s, ChoiceIndex(text) == 1);
+    return Recalculated(s);
+  });
+  AddControl(t, "", "ch_modal", [](State& s, int, std::string_view text) {
+    return OnModalCheck(s, ChoiceIndex(text) == 1);
+  });
+
+  AddControl(t, "", "mnunew", [](State& s, int, std::string_view) {
+    NewProject(s);
+    Recalculate(s);
+    return EventResult{};
+  });
+}
+
+void RefreshMainForm(State& s) {
+  Project& p = s.project;
+  View& v = s.view;
+  const bool dc = s.decimalComma;
+  v.text["iproj"] = p.projectName;
+  v.text["iident"] = p.projectIdent;
+  std::vector<std::string> grades;
+  for (int i = 0; i <= s.steel.gradeLast && i < 31; ++i) grades.push_back(s.steel.rows[i].name);
+  v.items["cbofyk"] = grades;
+  v.text["ifyk"] = FormatNumber(p.fyk, "#000", dc);
+  v.value["cbofyk"] = p.steelGrade;
+  v.text["il"] = FormatNumber(p.L, "#0.000", dc);
+
+  // Setting the controls fires their events where the state changes.
+  const bool vipp = p.ltbOn != 0;
+  auto vippNow = v.value.find("ch_vipp");
+  if (vippNow == v.value.end() || (vippNow->second != 0) != vipp) OnLtbCheck(s, vipp);
+
+  auto button = v.value.find("cbutt");
+  if (p.SupportType >= 0 && p.SupportType <= 5 &&
+      (button == v.value.end() || button->second != p.SupportType))
+    OnSupportButton(s, p.SupportType);
+
+  v.text["ibly"] = FormatNumber(p.bucklingFactorY, "#0.00", dc);
+  v.text["iblz"] = FormatNumber(p.bucklingFactorZ, "#0.00", dc);
+  v.value["cbuttbucklingy"] = BucklingPicture(p.bucklingFactorY, p.bucklingCaseY);
+  v.value["cbuttbucklingz"] = BucklingPicture(p.bucklingFactorZ, p.bucklingCaseZ);
+
+  const bool modal = p.chModal == 1;
+  auto modalNow = v.value.find("ch_modal");
+  if (modalNow == v.value.end() || (modalNow->second != 0) != modal) OnModalCheck(s, modal);
+
+  v.visible["frLc"] = p.AnalysisMode == 1;
+  v.value["CheckSLS"] = p.checkSLS != 0 ? 1 : 0;
+  v.text["idef_limit"] = FormatNumber(p.deflectionLimit, "#00", dc);
+
+  v.items["CboLoadComb"].assign(std::begin(kLoadCombTexts), std::end(kLoadCombTexts));
+  v.value["CboLoadComb"] = p.LoadCombMode;
+  v.items["cbobcy"].assign(std::begin(kCurveTexts), std::end(kCurveTexts));
+  v.items["cbobcz"] = v.items["cbobcy"];
+  v.value["cbobcy"] = p.bucklingCurveY;
+  v.value["cbobcz"] = p.bucklingCurveZ;
+
+  BuildCaption(s);
+  // The list selections above fire their Click events; one run with the record as it stands
+  // gives the same results.
+  Recalculate(s);
+}
+
+}  // namespace vn

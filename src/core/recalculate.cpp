@@ -1,0 +1,149 @@
+#include "core/recalculate.h"
+
+#include "core/pipeline.h"
+#include "core/state.h"
+
+namespace vn {
+
+void Recalculate(State& s) {
+  Project& p = s.project;
+  ++s.recalcCount;
+  // The trap: any fault of a stage ends the run at the message below.
+  try {
+    p.calcError = 0;
+    s.view.txtErrorVisible = false;
+
+    ComputeSection(s);
+    ShowSectionValues(s);
+    DrawSectionFigure(s);
+    MemberAnalysis(s);
+    if (p.calcError == -1) throw CalcFault("calcError");
+    RunControls(s);
+    if (p.calcError == -1) throw CalcFault("calcError");
+    DrawCharts(s);
+    if (p.chModal == 1) ModalAnalysis(s);
+    ShowWebText(s);
+    ShowControls(s);
+    UpdateMainFormState(s);
+    return;
+  } catch (const CalcFault&) {
+  } catch (const std::exception&) {
+    // Any other failure of a stage (a bad subscript of a standard container, a failed
+    // conversion) counts as a run-time fault too.
+  }
+  s.view.txtError = kCalcErrorText;
+  s.view.txtErrorVisible = true;
+}
+
+void NewProject(State& s) {
+  Project& p = s.project;
+  // Stage 1: the reserved numbers, the three texts, the family name, the grade, the section switches.
+  p.reserved1 = 1;
+  p.reserved2 = 1;
+  p.reserved3 = 1;
+  p.reserved4 = 1;
+  p.reserved5 = 1;
+  p.reserved6 = 1;
+  p.fileName = "New File";
+  p.projectName = "Project";
+  p.projectIdent = "Test";
+  p.profileName = "HEA";
+  p.steelGrade = 5;
+  p.rhsTurned = 1;
+  p.hsqKind = 0;
+  p.angleOption = 1;
+
+  // Stage 2: a run with what the record holds now (the previous project, or zeros at start-up).
+  Recalculate(s);
+
+  // Stage 3: all the other defaults, ending with L, a and the load tables.
+  p.ProfileType = 1;
+  p.figureNotToScale = 1;
+  p.SelectedRow.fill(0);
+  for (int id : {catHea, catHeb, catHem, catIpe, catUpe, catUnp}) p.SelectedRow[id] = 10;
+  p.SelectedRow[catInp] = 11;
+  for (int id : {catShs, catRhs, catCfshs, catCfrhs, catL1}) p.SelectedRow[id] = 50;
+  p.SelectedRow[catL2] = 40;
+  p.SelectedRow[catL3] = 5;
+  p.SelectedRow[catHp] = 5;
+  for (int id : {catUb, catUbp, catUc, catJ, catPfc, catCh}) p.SelectedRow[id] = 10;
+  p.subFamily101 = 1;
+  p.subFamily103 = 1;
+  p.p21 = {600, 300, 12, 20};
+  p.p22 = {600, 200, 400, 12, 20, 20};
+  p.p23 = {600, 600, 10, 20, 50, 0};
+  p.p24 = {300, 300, 540, 6, 25, 15, 5, 50, 1};
+  p.p25 = {300, 300, 430, 6, 25, 15, 15, 1};
+  p.p26 = {200, 200, 10, 10};
+  p.p27 = {600, 600, 600, 10, 20, 20, 25};
+  p.p28 = {150, 12};
+  p.p31 = {300, 10, 1};
+  p.p41 = {"General", 3, 1, 1, 18720.0f, 12000.0f, 6720.0f, 1923000.0f, 1185000000.0f, 90080000.0f,
+           7569000000000.0f, 3951000.0f, 600500.0f, 4421000.0f, 920200.0f};
+  p.p51 = {200, 600, 10, 10};
+  p.p52 = {600, 10};
+  p.p53 = {300, 600, 100, 11.5, 10, 16};
+  p.p54 = {600, 10};
+  p.p55 = {250, 600, 200, 8, 12, 50};
+  p.p56 = {580, 300, 300, 12, 20, 20};
+
+  p.rho = 7850;
+
+  p.bucklingFactorY = 1.0f;
+  p.bucklingFactorZ = 1.0f;
+  p.bucklingCaseY = 2;
+  p.bucklingCaseZ = 2;
+  p.bucklingCurveY = 0;
+  p.bucklingCurveZ = 0;
+
+  p.SupportType = 0;
+  p.SpringPct = 50;
+  p.rigidEndPost = 0;
+  p.webStiffeners = 0;
+
+  p.ltbOn = 1;
+  p.ltbCase = 2;
+  p.ltbFactor = 1.0f;
+  p.ltbRestraints = 0;
+  p.ltbPart = 0;
+  p.ltbUserC = False;
+  p.ltbUserC1 = False;
+  p.ltbCurve = 3;
+  p.ltbLoadLevel = 1;
+  p.ltbZa = 0;
+  p.ltbC1 = 1;
+  p.ltbC2 = 1;
+  p.ltbC3 = 1;
+
+  p.AnalysisMode = 1;
+  p.chModal = 0;
+  p.SelfweightOn = 0;
+  p.ChPointMode = 0;
+  p.ChPointCount = 1;
+  p.ChPointRelative = 0;
+  p.ChPointX = {0.0f, 1.0f, 2.0f, 3.0f};
+
+  p.NEndForce = 100;
+  p.My12 = {0, 100, 0};
+  p.Mz12 = {0, 0, 0};
+  p.Vy12 = {0, 0, 0};
+  p.Vz12 = {0, 50, 0};
+
+  p.L = 5.0f;
+  p.a = 2500;
+
+  Loads& l = s.loads;
+  l = Loads{};
+  l.axial[1].N = 100;
+  for (auto& u : l.uniform) u.Dir = 1;
+  l.uniform[1].q = 10;
+  for (auto& t : l.trapezoid) t.Dir = 1;
+  for (auto& pt : l.point) pt.Dir = 1;
+  l.axial[1].Checked = True;
+  l.uniform[1].Checked = True;
+  l.trapezoid[1].Checked = True;
+  l.point[1].Checked = True;
+  l.uniform[0] = UniformLoad{};  // the selfweight slot is made again by each analysis
+}
+
+}  // namespace vn

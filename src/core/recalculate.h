@@ -1,0 +1,22 @@
+#pragma once
+
+namespace vn {
+
+struct State;
+
+// The one message of a failed run, whatever its cause.
+inline constexpr const char* kCalcErrorText =
+    " Calculation Error. Axial load too big. Increase profile or reduce axial force ";
+
+// Rebuilds all results from the project record, in a fixed order. A failed numeric step at any
+// depth, or a set calcError, ends the run in the one message; nothing is rolled back.
+void Recalculate(State& s);
+
+// The defaults of a new project, in three stages with a recalculation between the first two.
+void NewProject(State& s);
+
+// Copies the record into the main form; the controls' own events run as they are set, so this
+// recalculates.
+void RefreshMainForm(State& s);
+
+}  // namespace vn

@@ -1,0 +1,33 @@
+// The whole state of the program: the project, the data read at start-up, the results of the last
+// recalculation and what the forms show. Every routine is a free function taking the State.
+#pragma once
+
+#include <string>
+
+#include "analysis/loads.h"
+#include "core/project.h"
+#include "core/view.h"
+#include "design/combination.h"
+#include "design/steel.h"
+#include "sections/catalogue.h"
+#include "sections/section.h"
+
+namespace vn {
+
+struct State {
+  Project project;
+  Loads loads;
+  Section section;
+  Catalogues catalogues;
+  SteelGrades steel;
+  CombinationFactors comb;
+  View view;
+
+  Single NEdAbs = 0;         // working axial force of the section classes and controls
+
+  std::string appPath;       // the program's folder, where its data files lie
+  bool decimalComma = false; // the user's locale writes 1,1 for 1.1
+  int recalcCount = 0;       // runs of Recalculate, for tests and the command line
+};
+
+}  // namespace vn

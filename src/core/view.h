@@ -1,0 +1,31 @@
+// What the forms show that the pipeline and the events decide: captions, texts of fields and labels,
+// list items, visibility. Keyed by control name ("il", "setup.ie", "Loading.iq(1)"), so that a form
+// only copies them into its widgets. The forms hold no engineering state of their own.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace vn {
+
+struct View {
+  std::string caption;           // caption of the main form
+  std::string txtError;          // caption of the error label
+  bool txtErrorVisible = false;
+  std::string lastMessage;       // warning text of the last event, if any
+
+  std::map<std::string, std::string> text;                // field and label texts
+  std::map<std::string, int> value;                       // list index, check box 0/1, option set
+  std::map<std::string, bool> visible;                    // shown or hidden
+  std::map<std::string, bool> enabled;                    // enabled or disabled
+  std::map<std::string, std::vector<std::string>> items;  // items of lists
+
+  // Section dialog: the dimension and property blocks as label, value text, unit.
+  struct Line {
+    std::string label, value, unit;
+  };
+  std::vector<Line> sectionValues;
+};
+
+}  // namespace vn

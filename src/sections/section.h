@@ -1,0 +1,72 @@
+// The one current section: dimensions, properties, classes and resistances. Written from scratch by
+// ComputeSection at every recalculation; every later stage only reads it.
+// Fields marked (d) keep the double value of their expression; all others are stored as Single.
+#pragma once
+
+#include <array>
+
+#include "core/types.h"
+
+namespace vn {
+
+struct OutlinePoint {
+  Single x = 0, y = 0;
+};
+
+struct Section {
+  // Dimensions
+  Single h = 0, b = 0, tf = 0, tw = 0, r = 0, ri = 0;
+  double r1 = 0;  // (d)
+  Single r2 = 0;
+  Single hw = 0, d = 0, c = 0, tmax = 0;
+  Single b1 = 0, tf1 = 0, b2 = 0, tf2 = 0, hweb = 0;
+  Single ey = 0, em = 0;
+
+  // Properties
+  Single A = 0, Af = 0, Aw = 0;
+  Single Iy = 0, Iz = 0, IzDefl = 0, Ix = 0, Iw = 0, Iu = 0, Iv = 0, alfa = 0;
+  Single Wely = 0, Welz = 0, Wply = 0, Wplz = 0;
+  Single Wyt = 0, Wyb = 0, Wzl = 0, Wzr = 0, Wumin = 0, Wvmin = 0;
+  Single Wy = 0, Wz = 0;
+  Single Aeff = 0;
+  double Weffy = 0;  // (d)
+  Single Weffz = 0;
+  double Avy = 0, Avz = 0;  // (d)
+  Single ez = 0, eyc = 0;
+  Single g = 0, S = 0;
+
+  // Classes
+  double classN = 0, classMy = 0, classMz = 0, classFlange = 0;  // (d)
+  Single classWeb = 0;
+
+  // Resistances, kN and kNm
+  double NcRd = 0, NtRd = 0;  // (d)
+  double MplyRd = 0;          // (d)
+  Single MplzRd = 0;
+  double MelyRd = 0;  // (d)
+  Single MelzRd = 0;
+  double MeffyRd = 0;  // (d)
+  Single MeffzRd = 0;
+  double MyRdClass = 0;  // (d)
+  Single MzRdClass = 0;
+  double MfyRd = 0;  // (d)
+  Single MfzRd = 0;
+  double VyRd = 0, VzRd = 0;  // (d)
+  Single VplRd = 0;
+  double VbyRd = 0;  // (d)
+  Single VbzRd = 0;
+  double NRdBuck = 0, MyRdBuck = 0, MzRdBuck = 0;  // (d)
+
+  // Figure data for the section figure
+  std::array<OutlinePoint, 82> Outline{};  // points 1..81
+  Integer OutlineCount = 0;
+  Integer OutlineInnerLast = 0;
+  Integer OutlineRects = 0;
+  Single FigHeight = 0, FigWidth = 0, FigCentroidZ = 0, FigCentroidY = 0;
+
+  // Flags the family decides
+  Boolean ltbRelevant = 0;
+  Integer channelKind = 0;  // 2 marks the channels
+};
+
+}  // namespace vn
