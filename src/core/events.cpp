@@ -81,7 +81,15 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
     return r;
   }
   int before = s.recalcCount;
-  EventResult r = e->run(s, index, text);
+  EventResult r;
+  try {
+    r = e->run(s, index, text);
+  } catch (const std::exception&) {
+    // A numeric fault in a handler outside the recalculation ends the handler at that step; the
+    // user sees the one calculation message rather than losing the program.
+    s.view.txtError = kCalcErrorText;
+    s.view.txtErrorVisible = true;
+  }
   r.recalculated = s.recalcCount != before;
   s.view.lastMessage = r.message;
   return r;

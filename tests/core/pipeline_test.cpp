@@ -1,0 +1,317 @@
+// The project record, the recalculation pipeline, and the main form's events.
+#include <gtest/gtest.h>
+
+#include "core/events.h"
+#include "core/json.h"
+#include "core/recalculate.h"
+#include "core/state.h"
+
+namespace vn {
+namespace {
+
+State NewState(bool decimalComma = false) {
+  State s;
+  s.decimalComma = decimalComma;
+  NewProject(s);
+  return s;
+}
+
+TEST(NewProject, SetsTheDefaultsOfANewProject) {
+  State s = NewState();
+  const Project& p = s.project;
+  EXPECT_EQ(p.fileName, "New File");
+  EXPECT_EQ(p.projectName, "Project");
+  EXPECT_EQ(p.projectIdent, "Test");
+  EXPECT_EQ(p.ProfileType, 1);
+  EXPECT_EQ(p.profileName, "HEA");
+  EXPECT_EQ(p.steelGrade, 5);
+  EXPECT_EQ(p.L, 5.0f);
+  EXPECT_EQ(p.a, 2500.0f);
+  EXPECT_EQ(p.SpringPct, 50);
+  EXPECT_EQ(p.bucklingCaseY, 2);
+  EXPECT_EQ(p.ltbOn, 1);
+  EXPECT_EQ(p.ltbCurve, 3);
+  EXPECT_EQ(p.AnalysisMode, 1);
+  EXPECT_EQ(p.ChPointX[3], 3.0f);
+  EXPECT_EQ(p.My12[1], 100.0f);
+  EXPECT_EQ(p.Vz12[1], 50.0f);
+  EXPECT_EQ(p.SelectedRow[catHea], 10);
+  EXPECT_EQ(p.SelectedRow[catInp], 11);
+  EXPECT_EQ(p.SelectedRow[catL2], 40);
+  EXPECT_EQ(p.p24.c, 5.0f);
+  EXPECT_EQ(p.p53.isttw, 11.5);
+  EXPECT_EQ(p.p41.istiw, 7569000000000.0f);
+  // Load tables: only slot 1 of each ticked, N = 100 and q = 10 in Z.
+  EXPECT_EQ(s.loads.axial[1].N, 100.0f);
+  EXPECT_EQ(s.loads.axial[1].Checked, True);
+  EXPECT_EQ(s.loads.axial[2].Checked, False);
+  EXPECT_EQ(s.loads.uniform[1].q, 10.0f);
+  EXPECT_EQ(s.loads.uniform[1].Dir, 1);
+  EXPECT_EQ(s.loads.uniform[2].Checked, False);
+  EXPECT_EQ(s.loads.point[8].Dir, 1);
+}
+
+TEST(NewProject, RecalculatesOnceBetweenItsFirstAndLastStage) {
+  State s;
+  s.project.L = 7.0f;  // a field of the previous project
+  NewProject(s);
+  EXPECT_EQ(s.recalcCount, 1);
+  EXPECT_EQ(s.project.L, 5.0f);
+}
+
+TEST(NewProject, KeepsTheSettingsOfThePreviousProject) {
+  State s;
+  s.project.gammaM0 = 1.1;
+  s.project.E = 200000;
+  s.project.deflectionLimit = 250;
+  s.project.codeId = "DK";
+  NewProject(s);
+  EXPECT_EQ(s.project.gammaM0, 1.1);
+  EXPECT_EQ(s.project.E, 200000.0f);
+  EXPECT_EQ(s.project.deflectionLimit, 250);
+  EXPECT_EQ(s.project.codeId, "DK");
+}
+
+TEST(Recalculate, ClearsTheErrorLabelOfTheRunBefore) {
+  State s = NewState();
+  s.view.txtError = kCalcErrorText;
+  s.view.txtErrorVisible = true;
+  s.project.calcError = -1;
+  Recalculate(s);
+  EXPECT_FALSE(s.view.txtErrorVisible);
+  EXPECT_EQ(s.project.calcError, 0);
+}
+
+TEST(CheckedArithmetic, EveryFailedStepIsACalcFault) {
+  EXPECT_THROW(Div(1.0, 0.0), CalcFault);
+  EXPECT_THROW(Sqrt(-1e-9), CalcFault);
+  EXPECT_THROW(Pow(0.0, -1.0), CalcFault);
+  EXPECT_THROW(Pow(-8.0, 1.0 / 3.0), CalcFault);
+  EXPECT_THROW(ToSingle(1e39), CalcFault);
+  EXPECT_THROW(ToInteger(32767.5), CalcFault);  // rounds to 32768
+  EXPECT_EQ(ToInteger(32767.4), 32767);
+  EXPECT_EQ(ToInteger(2.5), 2);  // halves to even
+  EXPECT_EQ(ToInteger(3.5), 4);
+  EXPECT_EQ(Pow(-2.0, 2.0), 4.0);
+}
+
+// ---- The field protocol on the main form ----
+
+TEST(FieldProtocol, ValidValueIsStoredReformattedAndRecalculates) {
+  State s = NewState();
+  int runs = s.recalcCount;
+  EventResult r = Fire(s, "il", "6");
+  EXPECT_FALSE(r.refused);
+  EXPECT_EQ(s.project.L, 6.0f);
+  EXPECT_EQ(r.text, "6.000");
+  EXPECT_EQ(r.focus, "ibly");
+  EXPECT_EQ(s.recalcCount, runs + 1);
+}
+
+TEST(FieldProtocol, EitherDecimalSignIsReadInEitherLocale) {
+  State point = NewState(false);
+  Fire(point, "ibly", "1,5");
+  EXPECT_EQ(point.project.bucklingFactorY, 1.5f);
+  EXPECT_EQ(point.project.bucklingCaseY, 6);  // a typed factor
+  State comma = NewState(true);
+  EventResult r = Fire(comma, "ibly", "1.5");
+  EXPECT_EQ(comma.project.bucklingFactorY, 1.5f);
+  EXPECT_EQ(r.text, "1,50");
+}
+
+TEST(FieldProtocol, LettersAreZeroInThePointLocaleAndAMismatchInTheCommaLocale) {
+  State point = NewState(false);
+  int runs = point.recalcCount;
+  EventResult r = Fire(point, "ibly", "abc");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, " Buckling length factor Y-axis >= 0.2 ");
+  EXPECT_EQ(r.text, "0.00");
+  EXPECT_EQ(r.focus, "ibly");
+  EXPECT_EQ(point.project.bucklingFactorY, 0.0f);  // stored before the test
+  EXPECT_EQ(point.recalcCount, runs);
+
+  State comma = NewState(true);
+  r = Fire(comma, "ibly", "abc");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, "Input string mismatch ");
+  EXPECT_EQ(comma.project.bucklingFactorY, 1.0f);  // the old value stays
+}
+
+TEST(FieldProtocol, BoundsAreInclusiveWhateverTheMessageSays) {
+  State s = NewState();
+  EXPECT_FALSE(Fire(s, "ispring", "0").refused);
+  EXPECT_FALSE(Fire(s, "ispring", "100").refused);
+  EventResult r = Fire(s, "ispring", "101");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, " 1 < Spring-restraint  > 99 ");
+  EXPECT_FALSE(Fire(s, "il", "0.05").refused);
+  EXPECT_TRUE(Fire(s, "il", "0.049").refused);
+  EXPECT_EQ(Fire(s, "il", "0.049").message, " L >= 0.050 ");
+}
+
+TEST(FieldProtocol, IntegerFieldsRoundHalvesToEven) {
+  State s = NewState();
+  EXPECT_FALSE(Fire(s, "idef_limit", "99.5").refused);
+  EXPECT_EQ(s.project.deflectionLimit, 100);
+  EXPECT_FALSE(Fire(s, "idef_limit", "100.5").refused);
+  EXPECT_EQ(s.project.deflectionLimit, 100);
+  EventResult r = Fire(s, "idef_limit", "1500.6");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, "100 <= Deflection <=1500 ");
+  EXPECT_EQ(s.project.deflectionLimit, 1501);
+}
+
+TEST(FieldProtocol, AnIntegerOverflowIsSilentAndKeepsTheOldValue) {
+  State s = NewState();
+  int runs = s.recalcCount;
+  EventResult r = Fire(s, "ispring", "40000");
+  EXPECT_FALSE(r.refused);
+  EXPECT_TRUE(r.message.empty());
+  EXPECT_EQ(s.project.SpringPct, 50);
+  EXPECT_EQ(s.recalcCount, runs);
+}
+
+TEST(FieldProtocol, TextFieldsStoreWithoutTestOrRecalculation) {
+  State s = NewState();
+  int runs = s.recalcCount;
+  EventResult r = Fire(s, "iproj", "Hall, \"north\" frame");
+  EXPECT_EQ(s.project.projectName, "Hall, \"north\" frame");
+  EXPECT_EQ(r.focus, "iident");
+  EXPECT_EQ(s.recalcCount, runs);
+}
+
+// ---- Options and check boxes of the main form ----
+
+TEST(SupportButtons, BucklingCasesBelowFiveFallBackAndTypedOrIrrelevantStay) {
+  State s = NewState();
+  s.project.bucklingCaseY = 6;
+  s.project.bucklingFactorY = 0.85f;
+  s.project.bucklingCaseZ = 3;
+  s.project.bucklingFactorZ = 0.7f;
+  Fire(s, "cbutt1");
+  EXPECT_EQ(s.project.SupportType, 1);
+  EXPECT_EQ(s.project.bucklingCaseY, 6);
+  EXPECT_EQ(s.project.bucklingFactorY, 0.85f);
+  EXPECT_EQ(s.project.bucklingCaseZ, 2);
+  EXPECT_EQ(s.project.bucklingFactorZ, 1.0f);
+  s.project.bucklingCaseY = 5;
+  s.project.bucklingFactorY = 0.001f;
+  Fire(s, "cbutt2");
+  EXPECT_EQ(s.project.bucklingCaseY, 5);
+  EXPECT_EQ(s.project.bucklingFactorY, 0.001f);
+}
+
+TEST(SupportButtons, SpringTypesShowTheSpringFieldAndTakeTheFocus) {
+  State s = NewState();
+  EventResult r = Fire(s, "cbutt3");
+  EXPECT_EQ(r.focus, "ispring");
+  EXPECT_TRUE(s.view.visible["ispring"]);
+  EXPECT_EQ(s.view.text["ispring"], "50");
+  Fire(s, "cbutt4");
+  EXPECT_FALSE(s.view.visible["ispring"]);
+}
+
+TEST(LtbCheck, ClearingSetsTheFactorAndRestraintsAndCheckingRestoresOnlyTheFactor) {
+  State s = NewState();
+  s.project.ltbCase = 3;
+  s.project.ltbRestraints = 2;
+  Fire(s, "ch_vipp", "0");
+  EXPECT_EQ(s.project.ltbOn, 0);
+  EXPECT_EQ(s.project.ltbFactor, 0.001f);
+  EXPECT_EQ(s.project.ltbRestraints, 0);
+  Fire(s, "ch_vipp", "1");
+  EXPECT_EQ(s.project.ltbOn, 1);
+  EXPECT_EQ(s.project.ltbFactor, 0.7f);
+  EXPECT_EQ(s.project.ltbRestraints, 0);
+}
+
+TEST(ModalCheck, IsRefusedForSpringSupportsAndDoesNotRecalculate) {
+  State s = NewState();
+  Fire(s, "cbutt5");
+  int runs = s.recalcCount;
+  EventResult r = Fire(s, "ch_modal", "1");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, " Modal analysis not possible for spring supports ");
+  EXPECT_EQ(s.project.chModal, 0);
+  Fire(s, "cbutt0");
+  runs = s.recalcCount;
+  r = Fire(s, "ch_modal", "1");
+  EXPECT_FALSE(r.refused);
+  EXPECT_EQ(s.project.chModal, 1);
+  EXPECT_TRUE(s.view.visible["cmd_modresult"]);
+  EXPECT_EQ(s.recalcCount, runs);
+}
+
+TEST(RefreshMainForm, FiresTheSupportEventWhenAnotherButtonBecomesTheSetOne) {
+  State s = NewState();
+  RefreshMainForm(s);
+  // A project read from a file: other support, buckling cases below 5.
+  s.project.SupportType = 2;
+  s.project.bucklingCaseY = 3;
+  s.project.bucklingFactorY = 0.7f;
+  RefreshMainForm(s);
+  EXPECT_EQ(s.project.bucklingCaseY, 2);
+  EXPECT_EQ(s.project.bucklingFactorY, 1.0f);
+  EXPECT_EQ(s.view.text["ibly"], "1.00");
+  // The same support again: nothing fires, the case read stays.
+  s.project.bucklingCaseY = 3;
+  s.project.bucklingFactorY = 0.7f;
+  RefreshMainForm(s);
+  EXPECT_EQ(s.project.bucklingCaseY, 3);
+  EXPECT_EQ(s.view.value["cbuttbucklingy"], 3);
+}
+
+TEST(RefreshMainForm, ShowsTheFieldsInTheirFormatsAndRecalculates) {
+  State s = NewState();
+  int runs = s.recalcCount;
+  s.project.L = 12.3456f;
+  s.project.deflectionLimit = 300;
+  s.project.AnalysisMode = 0;
+  RefreshMainForm(s);
+  EXPECT_EQ(s.view.text["il"], "12.346");
+  EXPECT_EQ(s.view.text["idef_limit"], "300");
+  EXPECT_FALSE(s.view.visible["frLc"]);
+  EXPECT_EQ(s.view.items["cbobcy"].size(), 6u);
+  EXPECT_EQ(s.view.items["CboLoadComb"][3], "EN 1990 Eq 6.10a/b");
+  EXPECT_GT(s.recalcCount, runs);
+}
+
+// ---- The control table ----
+
+TEST(ControlTable, FindsControlsByBareNameDialogNameAndSlot) {
+  int index = -1;
+  EXPECT_NE(Controls().Find("il", &index), nullptr);
+  EXPECT_EQ(index, -1);
+  EXPECT_EQ(Controls().Find("nosuchcontrol", &index), nullptr);
+  EXPECT_EQ(Controls().Find("il(1)", &index), nullptr);  // not an array
+  EXPECT_EQ(Controls().Find("cbutt9", &index), nullptr);
+}
+
+TEST(ControlTable, AnUnknownControlChangesNothing) {
+  State s = NewState();
+  int runs = s.recalcCount;
+  EventResult r = Fire(s, "ixyz", "3");
+  EXPECT_FALSE(r.known);
+  EXPECT_EQ(s.recalcCount, runs);
+}
+
+TEST(StateJson, NamesEveryRecordAndSetsFieldsByPath) {
+  State s = NewState();
+  EXPECT_TRUE(SetFieldByPath(s, "Project.L", "7.5"));
+  EXPECT_EQ(s.project.L, 7.5f);
+  EXPECT_TRUE(SetFieldByPath(s, "Loads.UniformLoad[2].q", "4"));
+  EXPECT_EQ(s.loads.uniform[2].q, 4.0f);
+  EXPECT_TRUE(SetFieldByPath(s, "Project.p21.isth", "800"));
+  EXPECT_EQ(s.project.p21.isth, 800.0f);
+  EXPECT_TRUE(SetFieldByPath(s, "Project.ChPointX[2]", "2.5"));
+  EXPECT_EQ(s.project.ChPointX[2], 2.5f);
+  EXPECT_FALSE(SetFieldByPath(s, "Project.nosuch", "1"));
+  std::string json = StateToJson(s);
+  EXPECT_NE(json.find("\"Project\":{\"fileName\":\"New File\""), std::string::npos);
+  EXPECT_NE(json.find("\"L\":7.5"), std::string::npos);
+  EXPECT_NE(json.find("\"Section\":{"), std::string::npos);
+  EXPECT_NE(json.find("\"txtError\":\"\""), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vn
