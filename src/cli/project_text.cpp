@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "core/file_actions.h"
 #include "core/format.h"
 #include "core/state.h"
 #include "results/summary.h"
@@ -80,14 +81,16 @@ std::string DetailText(const State&) {
   return "The table of detailed results is not available yet.\n";
 }
 
-bool OpenProject(State&, const std::string& path, std::string* error) {
-  *error = "varnelt-cli: reading project files is not available yet: " + path;
-  return false;
+bool OpenProject(State& s, const std::string& path, std::string* error) {
+  EventResult r = OpenAction(s, path);
+  if (r.refused) *error = r.message;
+  return !r.refused;
 }
 
-bool SaveProject(State&, const std::string& path, std::string* error) {
-  *error = "varnelt-cli: saving project files is not available yet: " + path;
-  return false;
+bool SaveProject(State& s, const std::string& path, std::string* error) {
+  EventResult r = SaveAsAction(s, path);
+  if (r.refused) *error = r.message;
+  return !r.refused;
 }
 
 }  // namespace vn::cli
