@@ -92,4 +92,48 @@ void VisitSection(V& v, S& c) {
   VN_F(c, channelKind);
 }
 
+template <class V, class A>
+void VisitAnalysis(V& v, A& a) {
+  VN_F(a, NPoints); VN_F(a, ChPointXrel);
+  VN_F(a, MyGrid); VN_F(a, VzGrid); VN_F(a, MzGrid); VN_F(a, VyGrid); VN_F(a, dzGrid); VN_F(a, dyGrid);
+  VN_F(a, MyPt); VN_F(a, VzPt); VN_F(a, VyPt); VN_F(a, MzPt); VN_F(a, NEd); VN_F(a, qTotal);
+  VN_F(a, MyMax); VN_F(a, MyMin); VN_F(a, MzMax); VN_F(a, MzMin);
+  VN_F(a, VzMax); VN_F(a, VzMin); VN_F(a, VyMax); VN_F(a, VyMin);
+  VN_F(a, MyMaxPos); VN_F(a, MyMinPos); VN_F(a, MzMaxPos); VN_F(a, MzMinPos);
+  VN_F(a, VzMaxPos); VN_F(a, VzMinPos); VN_F(a, VyMaxPos); VN_F(a, VyMinPos);
+  VN_F(a, dzMax); VN_F(a, dzMin); VN_F(a, dyMax); VN_F(a, dyMin); VN_F(a, dzAbs); VN_F(a, dyAbs);
+  VN_F(a, MyAbs); VN_F(a, MzAbs);
+  auto points = [&](const char* name, auto& f) {
+    v.Object(name, [&] { VN_F(f, M1); VN_F(f, M2); VN_F(f, M3); VN_F(f, M4); VN_F(f, M5); });
+  };
+  points("PointsY", a.PointsY);
+  points("PointsZ", a.PointsZ);
+  auto shape = [&](const char* name, auto& f) {
+    v.Object(name, [&] {
+      VN_F(f, Curved); VN_F(f, MidDominates); VN_F(f, Linear); VN_F(f, Psi); VN_F(f, AlphaS); VN_F(f, AlphaH);
+    });
+  };
+  shape("ShapeY", a.ShapeY);
+  shape("ShapeZ", a.ShapeZ);
+  VN_F(a, InflectionY1); VN_F(a, InflectionY2); VN_F(a, InflectionZ1); VN_F(a, InflectionZ2);
+  VN_F(a, MyGov); VN_F(a, MzGov); VN_F(a, GoverningEquation);
+  auto text = [&](const char* name, auto& f) {
+    v.Object(name, [&] { VN_F(f, Formula); VN_F(f, Numbers); VN_F(f, Ratio); VN_F(f, Limit); });
+  };
+  text("deflTextZ", a.deflTextZ);
+  text("deflTextY", a.deflTextY);
+  VN_F(a, colDeflZ); VN_F(a, colDeflY); VN_F(a, IRdeflZ); VN_F(a, IRdeflY);
+  VN_F(a, IRsection); VN_F(a, IRbuckling); VN_F(a, IRlimit);
+  VN_F(a, ModalMass); VN_F(a, ModalFreq);
+}
+
+template <class V, class C>
+void VisitCombination(V& v, C& c) {
+  VN_F(c, gammaG_610); VN_F(c, gammaQ1_610); VN_F(c, gammaQ2_610);
+  VN_F(c, gammaG_610a); VN_F(c, gammaQ1_610a); VN_F(c, gammaQ2_610a);
+  VN_F(c, gammaG_610b); VN_F(c, xi); VN_F(c, KFIG); VN_F(c, KFI);
+  VN_F(c, text610); VN_F(c, text610a); VN_F(c, text610b); VN_F(c, textSLS);
+  VN_F(c, textULSUser); VN_F(c, textSLSUser); VN_F(c, textBasic);
+}
+
 }  // namespace vn

@@ -20,6 +20,7 @@ struct View {
   std::map<std::string, bool> visible;                    // shown or hidden
   std::map<std::string, bool> enabled;                    // enabled or disabled
   std::map<std::string, std::vector<std::string>> items;  // items of lists
+  std::vector<std::string> openDialogs;                   // dialogs shown, by name
 
   // Section dialog: the dimension and property blocks as label, value text, unit.
   struct Line {
