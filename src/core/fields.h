@@ -136,4 +136,34 @@ void VisitCombination(V& v, C& c) {
   VN_F(c, textULSUser); VN_F(c, textSLSUser); VN_F(c, textBasic);
 }
 
+template <class V, class T>
+void VisitControlText(V& v, const char* name, T& t) {
+  v.Object(name, [&] { VN_F(t, Formula); VN_F(t, Numbers); VN_F(t, Ratio); VN_F(t, Limit); });
+}
+
+template <class V, class C>
+void VisitChecks(V& v, C& c) {
+  VN_F(c, IRsec);
+  for (int i = 1; i <= 6; ++i) {
+    static const char* names[7] = {"", "secText1", "secText2", "secText3", "secText4", "secText5", "secText6"};
+    VisitControlText(v, names[i], c.secText[static_cast<size_t>(i)]);
+  }
+  VN_F(c, colSec);
+  VN_F(c, IRbuckY); VN_F(c, IRbuckZ); VN_F(c, IRbuckLT);
+  VisitControlText(v, "buckTextY", c.buckTextY);
+  VisitControlText(v, "buckTextZ", c.buckTextZ);
+  VisitControlText(v, "buckTextLT", c.buckTextLT);
+  VN_F(c, colBuckY); VN_F(c, colBuckZ); VN_F(c, colLT);
+  VN_F(c, Mcr); VN_F(c, C1); VN_F(c, C2); VN_F(c, C3); VN_F(c, lamdaLT); VN_F(c, Mcr0);
+  VN_F(c, lamda0); VN_F(c, XLt); VN_F(c, xLT); VN_F(c, kc); VN_F(c, fLT);
+  VN_F(c, Ncry); VN_F(c, lamday); VN_F(c, chiy); VN_F(c, Ncrz); VN_F(c, lamdaz); VN_F(c, chiz);
+  VN_F(c, NcrT); VN_F(c, NcrTF);
+  VN_F(c, kyy); VN_F(c, kyz); VN_F(c, kzz); VN_F(c, kzy);
+  VN_F(c, Cmy); VN_F(c, Cmy0); VN_F(c, Cmz); VN_F(c, CmLt);
+  VN_F(c, Cyy); VN_F(c, Cyz); VN_F(c, Czy); VN_F(c, Czz);
+  VN_F(c, aLt); VN_F(c, bLt); VN_F(c, cLt); VN_F(c, dLt); VN_F(c, eLt);
+  VN_F(c, npl); VN_F(c, uy); VN_F(c, uz); VN_F(c, wy); VN_F(c, wz); VN_F(c, ey);
+  VN_F(c, curveTextY); VN_F(c, curveTextZ);
+}
+
 }  // namespace vn

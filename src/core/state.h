@@ -7,6 +7,7 @@
 
 #include "analysis/analysis.h"
 #include "analysis/loads.h"
+#include "checks/checks.h"
 #include "core/project.h"
 #include "core/settings_store.h"
 #include "core/view.h"
@@ -21,6 +22,7 @@ struct State {
   Project project;
   Loads loads;
   Analysis analysis;
+  Checks checks;
   Section section;
   Catalogues catalogues;
   SteelGrades steel;
