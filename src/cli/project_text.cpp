@@ -6,6 +6,7 @@
 #include "core/format.h"
 #include "core/state.h"
 #include "results/summary.h"
+#include "sections/section_dialogs.h"
 
 namespace vn::cli {
 
@@ -28,7 +29,12 @@ std::string ProjectText(const State& s) {
   auto f = [](double v, const char* pattern) { return FormatNumber(v, pattern); };
   o << s.view.caption << "\n";
   o << "Project: " << p.projectName << "   Ident: " << p.projectIdent << "\n";
-  o << "Section: " << p.profileName << " (ProfileType " << p.ProfileType << ")\n";
+  std::string section = p.profileName;
+  if (const SectionDialogInfo* d = SectionDialogOfType(p.ProfileType)) {
+    auto name = s.view.text.find(std::string(d->form) + ".oname");
+    if (name != s.view.text.end() && !name->second.empty()) section = name->second;
+  }
+  o << "Section: " << section << " (ProfileType " << p.ProfileType << ")\n";
   std::string grade = p.steelGrade >= 0 && p.steelGrade <= s.steel.gradeLast && p.steelGrade < 31
                           ? s.steel.rows[static_cast<size_t>(p.steelGrade)].name
                           : std::string("?");
