@@ -5,7 +5,8 @@
 BUILD     ?= build
 ASAN      ?= build-asan
 JOBS      ?= $(shell nproc)
-PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev
+PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
+             libxlsxwriter-dev
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 

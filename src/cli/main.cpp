@@ -2,6 +2,7 @@
 // and prints the state, the summary or the project.
 //
 //   varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [--json | --summary | --detail] [--save PATH]
+//               [--xlsx PATH] [--csv PATH]
 //
 // Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
 // calculation error.
@@ -11,6 +12,7 @@
 #include <cstdio>
 #include <cstring>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +21,8 @@
 #include "core/json.h"
 #include "core/startup.h"
 #include "core/state.h"
+#include "export/spreadsheet_export.h"
+#include "results/detail_table.h"
 #include "results/summary.h"
 
 namespace {
@@ -31,6 +35,8 @@ const char* kUsage =
     "  --summary            print the summary of controls\n"
     "  --detail             print the table of detailed results\n"
     "  --save PATH          save the project to PATH\n"
+    "  --xlsx PATH          write the table of detailed results to an .xlsx workbook\n"
+    "  --csv PATH           write the table of detailed results as comma-separated text\n"
     "  --decimal-comma      parse and print numbers as a decimal-comma locale does\n"
     "  --decimal-point      parse and print numbers as a decimal-point locale does\n"
     "  --data DIR           read the data files from DIR instead of the program's folder\n"
@@ -49,6 +55,7 @@ std::string ProgramFolder(const char* argv0) {
 
 int main(int argc, char** argv) {
   std::string projectPath, savePath, dataDir;
+  std::optional<std::string> xlsxPath, csvPath;  // given, even empty: written (or refused)
   std::vector<std::string> events;
   enum class Out { Project, Json, Summary, Detail, Controls } out = Out::Project;
   int decimal = -1;  // -1 from the locale
@@ -68,6 +75,8 @@ int main(int argc, char** argv) {
     else if (a == "--detail") out = Out::Detail;
     else if (a == "--controls") out = Out::Controls;
     else if (a == "--save") savePath = next("PATH");
+    else if (a == "--xlsx") xlsxPath = next("PATH");
+    else if (a == "--csv") csvPath = next("PATH");
     else if (a == "--data") dataDir = next("DIR");
     else if (a == "--decimal-comma") decimal = 1;
     else if (a == "--decimal-point") decimal = 0;
@@ -93,6 +102,7 @@ int main(int argc, char** argv) {
   vn::State s;
   const bool comma = decimal < 0 ? vn::DetectDecimalComma() : decimal == 1;
   vn::StartUp(s, dataDir.empty() ? ProgramFolder(argv[0]) : dataDir, comma);
+  s.spreadsheet = vn::ExportDetailGrid;  // the export button of More Results
 
   if (!projectPath.empty()) {
     std::string error;
@@ -121,6 +131,20 @@ int main(int argc, char** argv) {
     std::string error;
     if (!vn::cli::SaveProject(s, savePath, &error)) {
       std::cerr << error << "\n";
+      return 3;
+    }
+  }
+
+  // The table of detailed results as the dialog shows it after the events, then written out.
+  if (xlsxPath || csvPath) {
+    vn::BuildDetailTable(s);
+    std::string error;
+    const bool written =
+        (!xlsxPath ||
+         vn::WriteDetailXlsx(s.view.detailGrid, s.view.detailGridBold, *xlsxPath, &error)) &&
+        (!csvPath || vn::WriteDetailCsv(s.view.detailGrid, *csvPath, &error));
+    if (!written) {
+      std::cerr << "varnelt-cli: " << error << "\n";
       return 3;
     }
   }
