@@ -30,20 +30,8 @@ EventResult CheckPointField(State& s, int i, std::string_view text) {
   Project& p = s.project;
   EventResult r;
   const std::string self = Icp(i);
-  bool mismatch = false, overflow = false;
-  const Single v = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
-  if (mismatch) {
-    r.refused = true;
-    r.message = kMismatchText;
-    r.focus = self;
-    r.text = std::string(text);
-    s.view.text[self] = r.text;
-    return r;
-  }
-  if (overflow) {
-    r.text = std::string(text);
-    return r;
-  }
+  Single v = 0;
+  if (!ParseFieldText(s, self, text, &v, &r)) return r;
   const bool relative = p.ChPointRelative != 0;
   const bool valid = relative ? v >= 0 && v <= 1 : v >= 0 && v <= p.L;
   if (!valid) {

@@ -42,20 +42,8 @@ EventResult Changed(State& s) {
 // A value field: parsed, stored, shown with "#0.0"; no range.
 EventResult ValueField(State& s, const std::string& self, Single& slot, std::string_view text) {
   EventResult r;
-  bool mismatch = false, overflow = false;
-  const Single v = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
-  if (mismatch) {
-    r.refused = true;
-    r.message = kMismatchText;
-    r.focus = self;
-    r.text = std::string(text);
-    s.view.text[self] = r.text;
-    return r;
-  }
-  if (overflow) {
-    r.text = std::string(text);
-    return r;
-  }
+  Single v = 0;
+  if (!ParseFieldText(s, self, text, &v, &r)) return r;
   slot = v;
   r.text = FormatNumber(slot, "#0.0", s.decimalComma);
   s.view.text[self] = r.text;
@@ -68,20 +56,8 @@ EventResult ValueField(State& s, const std::string& self, Single& slot, std::str
 EventResult PositionField(State& s, const std::string& self, Single& slot, Integer relative,
                           const char* symbol, std::string_view text) {
   EventResult r;
-  bool mismatch = false, overflow = false;
-  const Single v = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
-  if (mismatch) {
-    r.refused = true;
-    r.message = kMismatchText;
-    r.focus = self;
-    r.text = std::string(text);
-    s.view.text[self] = r.text;
-    return r;
-  }
-  if (overflow) {
-    r.text = std::string(text);
-    return r;
-  }
+  Single v = 0;
+  if (!ParseFieldText(s, self, text, &v, &r)) return r;
   const Single L = s.project.L;
   const bool valid = relative != 0 ? v > 0 && v <= 1 : v > 0 && v <= L;
   if (!valid) {

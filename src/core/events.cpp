@@ -95,24 +95,33 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
   return r;
 }
 
+bool ParseFieldText(State& s, const std::string& self, std::string_view text, Single* value,
+                    EventResult* r) {
+  bool mismatch = false, overflow = false;
+  *value = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
+  if (!mismatch && !overflow) return true;
+  r->text = std::string(text);
+  if (mismatch) {
+    // Run-time error 13: the record keeps its old value and the focus returns.
+    r->refused = true;
+    r->message = kMismatchText;
+    r->focus = self;
+    s.view.text[self] = r->text;
+  }
+  // Any other run-time error shows nothing: the field is left, the record keeps its value.
+  return false;
+}
+
 EventResult RunNumericField(State& s, const std::string& self, const NumericField& f,
                             std::string_view text) {
   EventResult r;
-  bool mismatch = false, overflow = false;
-  Single v = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
-  if (mismatch) {
-    // Run-time error 13: the record keeps its old value and the focus returns.
-    if (f.mismatchMessage) {
-      r.refused = true;
-      r.message = kMismatchText;
-      r.focus = self;
+  Single v = 0;
+  if (!ParseFieldText(s, self, text, &v, &r)) {
+    if (!f.mismatchMessage) {
+      r.refused = false;
+      r.message.clear();
+      r.focus.clear();
     }
-    r.text = std::string(text);
-    return r;
-  }
-  if (overflow) {
-    // Any other run-time error shows nothing: the field is left, the record keeps its value.
-    r.text = std::string(text);
     return r;
   }
   double stored = v;

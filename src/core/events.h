@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/types.h"
+
 namespace vn {
 
 struct State;
@@ -65,6 +67,12 @@ struct NumericField {
   std::function<void(State&)> after;                // what runs after a valid value
   bool mismatchMessage = true;                      // false: a mismatch shows nothing
 };
+
+// The parse step of every numeric field: the typed text as a Single. A text that is no number in
+// the decimal-comma locale refuses with "Input string mismatch " and keeps the focus on `self`;
+// a value beyond the range of a Single ends the event silently. Both give false with `r` filled.
+bool ParseFieldText(State& s, const std::string& self, std::string_view text, Single* value,
+                    EventResult* r);
 
 // Parse, store before the test, reformat, test, then recalculate or refuse with the message.
 EventResult RunNumericField(State& s, const std::string& self, const NumericField& f,
