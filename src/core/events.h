@@ -21,6 +21,8 @@ struct EventResult {
   std::string focus;         // control that gets the focus afterwards ("" = unchanged)
   std::string text;          // the field's text after the event (reformatted value)
   bool recalculated = false; // Recalculate ran at least once
+  std::string question;      // a question the front end asks; the answer comes back as the text
+  bool exit = false;         // the program ends at once
 };
 
 using ControlHandler = std::function<EventResult(State& s, int index, std::string_view text)>;

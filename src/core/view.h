@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "graphics/canvas.h"
+
 namespace vn {
 
 struct View {
@@ -20,6 +22,10 @@ struct View {
   std::map<std::string, bool> visible;                    // shown or hidden
   std::map<std::string, bool> enabled;                    // enabled or disabled
   std::map<std::string, std::vector<std::string>> items;  // items of lists
+  std::vector<std::string> openDialogs;                   // dialogs shown, by name
+  // The pictures the stages drew, keyed by picture name ("PicMy", "pic11", "p01.pic1"): a run that
+  // fails leaves the pictures it had not reached as they were.
+  std::map<std::string, Drawing> pictures;
 
   // Section dialog: the dimension and property blocks as label, value text, unit.
   struct Line {

@@ -1,0 +1,24 @@
+// The symbols of the end supports: the pictures of the option buttons cbutt0..cbutt5 and the ends of
+// the member symbol.
+#pragma once
+
+#include <utility>
+
+#include "graphics/canvas.h"
+
+namespace vn {
+
+enum class EndKind { Pinned, Roller, Fixed, Spring, Free };
+
+// The ends at x = 0 and x = L of a support type: 0 simple, 1 pinned and fixed, 2 fixed at both ends,
+// 3 springs at both ends, 4 cantilever, 5 pinned and spring. An unknown type gives two free ends.
+std::pair<EndKind, EndKind> SupportEnds(int supportType);
+
+// One end support at the member's end `at`, drawn `size` units high (units equal in x and y); the
+// fixed wall and the spring face away from the member, to the left at x = 0, to the right at x = L.
+void DrawSupportEnd(Canvas& c, Point at, EndKind kind, bool rightEnd, double size, const Pen& pen);
+
+// The picture of an option button: the member and its two ends on a scale of 0..100 by 0..50.
+void DrawSupportIcon(Canvas& c, int supportType);
+
+}  // namespace vn
