@@ -25,7 +25,7 @@ struct View {
   std::vector<std::string> openDialogs;                   // dialogs shown, by name
   // The pictures the stages drew, keyed by picture name ("PicMy", "pic11", "p01.pic1"): a run that
   // fails leaves the pictures it had not reached as they were.
-  std::map<std::string, Drawing> pictures;
+  std::map<std::string, draw::Drawing> pictures;
 
   // Section dialog: the dimension and property blocks as label, value text, unit.
   struct Line {

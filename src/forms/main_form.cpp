@@ -471,15 +471,19 @@ void MainForm::refresh() {
     action->setEnabled(enabled);
   }
 
-  // The section in use: the family's name and, where its dialog has a list, the row chosen.
+  // The section in use: its name as the family writes it, else the row chosen in its dialog's
+  // list, else the family's short name.
   QString profile = QString::fromStdString(s.project.profileName);
   for (const ProfileEntry& e : kProfiles) {
     if (e.type != s.project.ProfileType) continue;
     const std::string list = std::string(e.dialog) + ".cbo";
+    auto name = v.text.find(std::string(e.dialog) + ".oname");
     auto items = v.items.find(list);
     auto index = v.value.find(list);
-    if (items != v.items.end() && index != v.value.end() && index->second >= 0 &&
-        index->second < static_cast<int>(items->second.size()))
+    if (name != v.text.end() && !name->second.empty())
+      profile = QString::fromStdString(name->second);
+    else if (items != v.items.end() && index != v.value.end() && index->second >= 0 &&
+             index->second < static_cast<int>(items->second.size()))
       profile = QString::fromStdString(items->second[static_cast<size_t>(index->second)]);
     break;
   }
@@ -599,11 +603,8 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool MainForm::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) {
-    const bool fromDialog = session_->lastActiveWasDialog;
-    session_->lastActiveWasDialog = false;
-    if (fromDialog) session_->refreshMainForm();
-  }
+  // The Activate event of the main form copies the record into it.
+  if (event->type() == QEvent::WindowActivate && session_->activated(this)) session_->refreshMainForm();
   return QMainWindow::event(event);
 }
 

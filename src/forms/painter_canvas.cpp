@@ -6,6 +6,8 @@
 
 namespace vn::forms {
 
+using namespace vn::draw;
+
 namespace {
 
 QColor ToQColor(Rgb c) { return QColor(c.r, c.g, c.b); }

@@ -9,28 +9,28 @@ class QPainter;
 
 namespace vn::forms {
 
-class PainterCanvas : public Canvas {
+class PainterCanvas : public draw::Canvas {
  public:
   // Draws into `target` of the painter's device; the scale starts at 0..100 both ways.
   PainterCanvas(QPainter& painter, const QRectF& target);
 
   void SetScale(double left, double top, double right, double bottom) override;
-  void Clear(Rgb background) override;
-  void Line(Point a, Point b, const Pen& pen) override;
-  void Polyline(const std::vector<Point>& points, const Pen& pen) override;
-  void Polygon(const std::vector<Point>& points, const Pen& pen, std::optional<Rgb> fill) override;
-  void Rectangle(Point a, Point b, const Pen& pen, std::optional<Rgb> fill) override;
-  void Circle(Point centre, double radius, const Pen& pen, std::optional<Rgb> fill) override;
-  void Text(Point at, const std::string& text, const Font& font, HAlign h, VAlign v) override;
+  void Clear(draw::Rgb background) override;
+  void Line(draw::Point a, draw::Point b, const draw::Pen& pen) override;
+  void Polyline(const std::vector<draw::Point>& points, const draw::Pen& pen) override;
+  void Polygon(const std::vector<draw::Point>& points, const draw::Pen& pen, std::optional<draw::Rgb> fill) override;
+  void Rectangle(draw::Point a, draw::Point b, const draw::Pen& pen, std::optional<draw::Rgb> fill) override;
+  void Circle(draw::Point centre, double radius, const draw::Pen& pen, std::optional<draw::Rgb> fill) override;
+  void Text(draw::Point at, const std::string& text, const draw::Font& font, draw::HAlign h, draw::VAlign v) override;
 
  private:
-  QPointF map(Point p) const;
-  void usePen(const Pen& pen);
-  void useFill(std::optional<Rgb> fill);
+  QPointF map(draw::Point p) const;
+  void usePen(const draw::Pen& pen);
+  void useFill(std::optional<draw::Rgb> fill);
 
   QPainter& p_;
   QRectF target_;
-  ScaleMap map_;
+  draw::ScaleMap map_;
 };
 
 }  // namespace vn::forms

@@ -34,7 +34,7 @@ void PictureBox::paintEvent(QPaintEvent* e) {
   auto it = pictures.find(name_);
   if (it == pictures.end() || it->second.empty()) return;
   PainterCanvas canvas(painter, area);
-  Replay(it->second, canvas);
+  draw::Replay(it->second, canvas);
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* e) {

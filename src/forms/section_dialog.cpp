@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -120,8 +121,31 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   close->setObjectName("Command1");
   connect(close, &QPushButton::clicked, this, [this] { this->close(); });
 
+  // The section's name as the family writes it ("HEA 200").
+  auto* name = new QLabel;
+  QFont bold = name->font();
+  bold.setBold(true);
+  name->setFont(bold);
+  bindings_->label(name, key("oname"));
+
   auto* left = new QVBoxLayout;
+  // The families with several tables choose the table first.
+  std::vector<const char*> tables;
+  if (family.type == 101) tables = {"UB", "UC", "UBP"};
+  if (family.type == 103) tables = {"PFC", "CH"};
+  if (!tables.empty()) {
+    auto* row = new QHBoxLayout;
+    for (size_t k = 0; k < tables.size(); ++k) {
+      auto* option = new QRadioButton(tables[k]);
+      const std::string control = key(("prof" + std::to_string(k + 1)).c_str());
+      bindings_->option(option, control, control, 1);
+      row->addWidget(option);
+    }
+    row->addStretch();
+    left->addLayout(row);
+  }
   left->addWidget(list_);
+  left->addWidget(name);
   left->addWidget(dims);
   left->addWidget(figureFrame_, 1);
   auto* right = new QVBoxLayout;
@@ -155,8 +179,7 @@ void SectionDialog::refresh() {
 }
 
 bool SectionDialog::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) {
-    session_->lastActiveWasDialog = true;
+  if (event->type() == QEvent::WindowActivate && session_->activated(this)) {
     const std::string activate = key("Activate");
     if (Session::knows(activate)) session_->fire(activate);
   }

@@ -67,6 +67,12 @@ bool Session::knows(const std::string& control) {
   return Controls().Find(control, nullptr) != nullptr;
 }
 
+bool Session::activated(QWidget* window) {
+  const bool other = lastActive_.data() != window;
+  lastActive_ = window;
+  return other;
+}
+
 void Session::refreshMainForm() {
   RefreshMainForm(state_);
   emit changed();

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 #include <QString>
 #include <functional>
 #include <string>
@@ -58,9 +60,10 @@ class Session : public QObject {
   // the user leaving another field.
   bool restoringFocus = false;
 
-  // Which of the program's windows was active last: the main form refreshes itself when it becomes
-  // active after one of the dialogs, as its Activate event does.
-  bool lastActiveWasDialog = false;
+  // A window of the program became active. True when it takes over from another of the program's
+  // windows, or is the first: that is when a form's Activate event runs. A message box or another
+  // program in between changes nothing, so that closing a warning box activates nothing.
+  bool activated(QWidget* window);
 
  signals:
   // The state may have changed: show it.
@@ -70,6 +73,7 @@ class Session : public QObject {
 
  private:
   State state_;
+  QPointer<QWidget> lastActive_;
 };
 
 }  // namespace vn::forms

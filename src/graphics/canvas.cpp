@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace vn {
+namespace vn::draw {
 
 void Replay(const Drawing& drawing, Canvas& c) {
   using K = DrawCommand::Kind;
@@ -262,4 +262,4 @@ std::string SvgCanvas::Svg() const {
          "\">\n" + body_ + "</svg>\n";
 }
 
-}  // namespace vn
+}  // namespace vn::draw

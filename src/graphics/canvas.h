@@ -11,7 +11,9 @@
 #include <string>
 #include <vector>
 
-namespace vn {
+// The types live in vn::draw, apart from the names of the engineering routines (a section outline
+// has its own points).
+namespace vn::draw {
 
 struct Rgb {
   std::uint8_t r = 0, g = 0, b = 0;
@@ -150,4 +152,4 @@ class SvgCanvas : public Canvas {
   std::string body_;
 };
 
-}  // namespace vn
+}  // namespace vn::draw

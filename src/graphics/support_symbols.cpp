@@ -19,9 +19,9 @@ std::pair<EndKind, EndKind> SupportEnds(int supportType) {
 namespace {
 
 // A triangle under the end with its apex at the member, and the ground under it.
-void Hinge(Canvas& c, Point at, double size, const Pen& pen, bool roller) {
+void Hinge(draw::Canvas& c, draw::Point at, double size, const draw::Pen& pen, bool roller) {
   const double h = size * 0.6, w = size * 0.35;
-  c.Polygon({at, {at.x - w, at.y + h}, {at.x + w, at.y + h}}, pen, kWhite);
+  c.Polygon({at, {at.x - w, at.y + h}, {at.x + w, at.y + h}}, pen, draw::kWhite);
   double ground = at.y + h;
   if (roller) ground += size * 0.15;  // a gap: the end moves along the member
   const double half = w * 1.4;
@@ -31,7 +31,7 @@ void Hinge(Canvas& c, Point at, double size, const Pen& pen, bool roller) {
 }
 
 // A wall across the end, hatched on the side away from the member.
-void Wall(Canvas& c, Point at, double size, const Pen& pen, bool rightEnd) {
+void Wall(draw::Canvas& c, draw::Point at, double size, const draw::Pen& pen, bool rightEnd) {
   const double half = size * 0.55, dir = rightEnd ? 1 : -1;
   c.Line({at.x, at.y - half}, {at.x, at.y + half}, pen);
   for (double y = at.y - half + size * 0.12; y <= at.y + half + 1e-9; y += size * 0.18)
@@ -39,9 +39,9 @@ void Wall(Canvas& c, Point at, double size, const Pen& pen, bool rightEnd) {
 }
 
 // A rotational spring: a hinge with a coil round the end.
-void Coil(Canvas& c, Point at, double size, const Pen& pen, bool rightEnd) {
+void Coil(draw::Canvas& c, draw::Point at, double size, const draw::Pen& pen, bool rightEnd) {
   Hinge(c, at, size, pen, false);
-  std::vector<Point> coil;
+  std::vector<draw::Point> coil;
   const double dir = rightEnd ? 1 : -1;
   const double pi = 3.14159265358979;
   for (int i = 0; i <= 40; ++i) {
@@ -55,7 +55,7 @@ void Coil(Canvas& c, Point at, double size, const Pen& pen, bool rightEnd) {
 
 }  // namespace
 
-void DrawSupportEnd(Canvas& c, Point at, EndKind kind, bool rightEnd, double size, const Pen& pen) {
+void DrawSupportEnd(draw::Canvas& c, draw::Point at, EndKind kind, bool rightEnd, double size, const draw::Pen& pen) {
   switch (kind) {
     case EndKind::Pinned: Hinge(c, at, size, pen, false); break;
     case EndKind::Roller: Hinge(c, at, size, pen, true); break;
@@ -65,11 +65,11 @@ void DrawSupportEnd(Canvas& c, Point at, EndKind kind, bool rightEnd, double siz
   }
 }
 
-void DrawSupportIcon(Canvas& c, int supportType) {
+void DrawSupportIcon(draw::Canvas& c, int supportType) {
   c.SetScale(0, 0, 100, 50);
-  const Pen member{kBlack, 2, LineStyle::Solid};
-  const Pen thin{kBlack, 1, LineStyle::Solid};
-  const Point left{16, 20}, right{84, 20};
+  const draw::Pen member{draw::kBlack, 2, draw::LineStyle::Solid};
+  const draw::Pen thin{draw::kBlack, 1, draw::LineStyle::Solid};
+  const draw::Point left{16, 20}, right{84, 20};
   c.Line(left, right, member);
   auto [a, b] = SupportEnds(supportType);
   DrawSupportEnd(c, left, a, false, 30, thin);

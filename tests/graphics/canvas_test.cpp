@@ -9,6 +9,8 @@
 namespace vn {
 namespace {
 
+using namespace vn::draw;
+
 // ---- user coordinates ----
 
 TEST(CanvasScale, ChartGridOfHundredMapsOntoThePicture) {

@@ -9,6 +9,8 @@
 namespace vn {
 namespace {
 
+using namespace vn::draw;
+
 TEST(SupportSymbols, EndsFollowTheSupportType) {
   // 0 simple, 1 pinned at x=0 and fixed at x=L, 2 fixed at both ends, 3 springs at both ends,
   // 4 cantilever fixed at x=0 and free at x=L, 5 pinned at x=0 and spring at x=L.
