@@ -88,6 +88,7 @@ bool FieldBinder::eventFilter(QObject* watched, QEvent* event) {
 void FieldBinder::leave(bool byEnter) {
   if (!edit_ || !Session::knows(name_)) return;
   const std::string text = edit_->text().toStdString();
+  edit_->setModified(false);  // the field shows what the core makes of the text
   EventResult r = session_->fire(name_, text);
   if (!edit_) return;
   if (r.refused) {
@@ -217,6 +218,8 @@ void Bindings::refresh() {
       case Kind::Field:
       case Kind::Text: {
         auto* edit = static_cast<QLineEdit*>(w);
+        // A field being typed in keeps its text until it is left.
+        if (edit->hasFocus() && edit->isModified()) break;
         if (text != v.text.end()) {
           const QString t = QString::fromStdString(text->second);
           if (edit->text() != t) {

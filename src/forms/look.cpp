@@ -15,7 +15,9 @@ void ApplyLook(QApplication& app) {
       "QGroupBox { border: 1px solid palette(mid); border-radius: 3px; margin-top: 0.55em;"
       " padding: 4px 2px 2px 2px; }"
       "QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 7px;"
-      " padding: 0 3px; }");
+      " padding: 0 3px; }"
+      // The option set among the support pictures stands out.
+      "QToolButton:checked { background: #cfe0f4; border: 1px solid #3d7cc9; border-radius: 3px; }");
 }
 
 }  // namespace vn::forms

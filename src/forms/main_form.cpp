@@ -74,6 +74,25 @@ QIcon SupportIcon(int type, QSize size) {
   return QIcon(pm);
 }
 
+// The picture of a buckling length button (1..6).
+QIcon BucklingIcon(int picture) {
+  static QIcon icons[7];
+  if (picture < 1 || picture > 6) picture = 6;
+  if (icons[picture].isNull()) {
+    const QSize size(14, 28);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap pm(size * ratio);
+    pm.setDevicePixelRatio(ratio);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
+    DrawBucklingCaseIcon(canvas, picture);
+    p.end();
+    icons[picture] = QIcon(pm);
+  }
+  return icons[picture];
+}
+
 const char* const kSupportTips[6] = {
     "Simply supported", "Pinned at x=0, fixed at x=L", "Fixed at both ends",
     "Spring restraint at both ends", "Cantilever: fixed at x=0, free at x=L",
@@ -252,7 +271,7 @@ void MainForm::buildForm() {
     auto* factor = Field(48);
     b.field(factor, axes[k][0]);
     auto* cases = new QToolButton;
-    cases->setText("...");
+    cases->setIconSize(QSize(14, 28));
     cases->setToolTip(QString("Buckling length, %1-axis").arg(axes[k][4]));
     b.button(cases, axes[k][1]);
     auto* curve = new QComboBox;
@@ -261,8 +280,8 @@ void MainForm::buildForm() {
     b.label(curveText, axes[k][3]);
     cgrid->addWidget(factor, 1, col);
     cgrid->addWidget(cases, 1, col + 1);
-    cgrid->addWidget(curve, 2, col, 1, 2);
-    cgrid->addWidget(curveText, 3, col, 1, 2);
+    cgrid->addWidget(curve, 2, col);
+    cgrid->addWidget(curveText, 2, col + 1);
   }
   cgrid->setColumnStretch(0, 1);
   input->addWidget(column);
@@ -489,6 +508,13 @@ void MainForm::refresh() {
   }
   if (auto* label = findChild<QLabel*>("profileName")) label->setText(profile);
 
+  // The buckling length buttons show the case in force.
+  for (const char* name : {"cbuttbucklingy", "cbuttbucklingz"}) {
+    auto it = v.value.find(name);
+    if (auto* button = findChild<QToolButton*>(name))
+      button->setIcon(BucklingIcon(it != v.value.end() ? it->second : 2));
+  }
+
   const QString summary = QString::fromStdString(SummaryText(s));
   if (summary_->toPlainText() != summary) summary_->setPlainText(summary);
   error_->setText(QString::fromStdString(v.txtError));
@@ -592,6 +618,12 @@ QWidget* MainForm::openDialog(const std::string& name) {
 
 bool MainForm::eventFilter(QObject* watched, QEvent* event) {
   const QEvent::Type type = event->type();
+  if (type == QEvent::FocusIn && (watched->objectName() == "ibly" || watched->objectName() == "iblz")) {
+    // Typing a factor: its button shows the picture of a typed factor.
+    const QString button = watched->objectName() == "ibly" ? "cbuttbucklingy" : "cbuttbucklingz";
+    if (auto* b = findChild<QToolButton*>(button)) b->setIcon(BucklingIcon(6));
+    return false;
+  }
   if (type != QEvent::MouseButtonRelease && type != QEvent::ContextMenu) return false;
   auto* w = qobject_cast<QWidget*>(watched);
   if (!w || w->window() != this) return false;

@@ -1,6 +1,7 @@
 #include "graphics/support_symbols.h"
 
 #include <cmath>
+#include <functional>
 
 namespace vn {
 
@@ -74,6 +75,69 @@ void DrawSupportIcon(draw::Canvas& c, int supportType) {
   auto [a, b] = SupportEnds(supportType);
   DrawSupportEnd(c, left, a, false, 30, thin);
   DrawSupportEnd(c, right, b, true, 30, thin);
+}
+
+namespace {
+
+// Foot of a column standing on a fixed base: a hatched line across.
+void FixedAcross(draw::Canvas& c, draw::Point at, bool below, const draw::Pen& pen) {
+  const double dir = below ? 1 : -1;
+  c.Line({at.x - 7, at.y}, {at.x + 7, at.y}, pen);
+  for (double x = at.x - 5; x <= at.x + 7; x += 4) c.Line({x, at.y}, {x - 3, at.y + dir * 3}, pen);
+}
+
+// A hinge: a small triangle pointing at the column's end.
+void HingeAt(draw::Canvas& c, draw::Point at, bool below, const draw::Pen& pen) {
+  const double dir = below ? 1 : -1;
+  c.Polygon({at, {at.x - 5, at.y + dir * 6}, {at.x + 5, at.y + dir * 6}}, pen, draw::kWhite);
+}
+
+}  // namespace
+
+void DrawBucklingCaseIcon(draw::Canvas& c, int picture) {
+  c.SetScale(0, 0, 30, 60);
+  const draw::Pen pen{draw::kBlack, 1, draw::LineStyle::Solid};
+  const draw::Pen shape{draw::kBlue, 1.5, draw::LineStyle::Solid};
+  const double x = 11, top = 7, foot = 51;
+  c.Line({x, top}, {x, foot}, draw::Pen{draw::kBlack, 1, draw::LineStyle::Dot});  // the column
+  // The buckled shape: w(t) with t from the foot (0) to the top (1), largest deflection 1.
+  const double pi = 3.14159265358979;
+  std::function<double(double)> w;
+  switch (picture) {
+    case 1: w = [pi](double t) { return 1 - std::cos(pi / 2 * t); }; break;
+    case 2: w = [pi](double t) { return std::sin(pi * t); }; break;
+    case 3: w = [pi](double t) { return std::sin(pi * t) * std::pow(t, 0.6) / 0.78; }; break;
+    case 4: w = [pi](double t) { return (1 - std::cos(2 * pi * t)) / 2; }; break;
+    default: break;
+  }
+  if (w) {
+    std::vector<draw::Point> curve;
+    for (int i = 0; i <= 24; ++i) {
+      const double t = i / 24.0;
+      curve.push_back({x + 12 * w(t), foot - t * (foot - top)});
+    }
+    c.Polyline(curve, shape);
+  } else {
+    c.Line({x, top}, {x, foot}, shape);
+  }
+  switch (picture) {
+    case 1: FixedAcross(c, {x, foot}, true, pen); break;
+    case 2: HingeAt(c, {x, foot}, true, pen); HingeAt(c, {x, top}, false, pen); break;
+    case 3: FixedAcross(c, {x, foot}, true, pen); HingeAt(c, {x, top}, false, pen); break;
+    case 4: FixedAcross(c, {x, foot}, true, pen); FixedAcross(c, {x, top}, false, pen); break;
+    case 5:
+      // Held all along its length.
+      for (double y = top; y <= foot + 1e-9; y += 7) c.Line({x - 6, y}, {x, y}, pen);
+      break;
+    default: {
+      HingeAt(c, {x, foot}, true, pen);
+      HingeAt(c, {x, top}, false, pen);
+      draw::Font f;
+      f.size = 9;
+      f.italic = true;
+      c.Text({x + 6, (top + foot) / 2}, "k", f, draw::HAlign::Left, draw::VAlign::Middle);
+    }
+  }
 }
 
 }  // namespace vn

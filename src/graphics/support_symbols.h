@@ -21,4 +21,9 @@ void DrawSupportEnd(draw::Canvas& c, draw::Point at, EndKind kind, bool rightEnd
 // The picture of an option button: the member and its two ends on a scale of 0..100 by 0..50.
 void DrawSupportIcon(draw::Canvas& c, int supportType);
 
+// The picture of a buckling length button: 1 cantilever (2.0), 2 pinned-pinned (1.0), 3 pinned at
+// the top and fixed at the foot (0.7), 4 fixed-fixed (0.5), 5 held over the length (buckling not
+// relevant), 6 a typed factor. A standing column and its buckled shape on a scale of 0..30 by 0..60.
+void DrawBucklingCaseIcon(draw::Canvas& c, int picture);
+
 }  // namespace vn

@@ -128,6 +128,19 @@ class FormsTest : public QObject {
     QVERIFY(QApplication::focusWidget() != il);  // Enter moved on
   }
 
+  void textBeingTypedIsKeptWhileAnotherControlActs() {
+    // A menu entry acts without the field being left: what is typed stays until the field is left.
+    auto* il = control<QLineEdit>("il");
+    focus(il);
+    type(il, "7");
+    session->fire("cbutt2");
+    QCOMPARE(session->state().project.SupportType, int16_t(2));
+    QCOMPARE(il->text(), QString("7"));
+    QTest::keyClick(il, Qt::Key_Return);
+    QCOMPARE(session->state().project.L, 7.0f);
+    QCOMPARE(il->text(), QString("7.000"));
+  }
+
   void enterFromTheLastBucklingFieldGoesToTheProjectName() {
     auto* iblz = control<QLineEdit>("iblz");
     focus(iblz);
@@ -376,6 +389,10 @@ class FormsTest : public QObject {
     if (!qEnvironmentVariableIsEmpty("VARNELT_SHOTS")) {
       d->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/p01.png");
       form->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/main.png");
+      for (const char* frame : {"columnframe", "Frame2"}) {
+        QPixmap shot = control<QGroupBox>(frame)->grab();
+        shot.scaled(shot.size() * 3).save(qEnvironmentVariable("VARNELT_SHOTS") + "/" + frame + ".png");
+      }
     }
   }
 };

@@ -32,6 +32,32 @@ TEST(SupportSymbols, EverySupportTypeHasItsOwnPicture) {
   EXPECT_EQ(pictures.size(), 6u);
 }
 
+TEST(SupportSymbols, EveryBucklingCaseHasItsOwnPicture) {
+  std::set<std::string> pictures;
+  for (int picture = 1; picture <= 6; ++picture) {
+    SvgCanvas svg(30, 60);
+    DrawBucklingCaseIcon(svg, picture);
+    pictures.insert(svg.Svg());
+  }
+  EXPECT_EQ(pictures.size(), 6u);
+}
+
+TEST(SupportSymbols, BuckledShapesStayOnTheirColumn) {
+  // Every buckled shape starts and ends on the column line (x = 11): the ends do not move sideways,
+  // but for the cantilever's free top.
+  for (int picture : {2, 3, 4}) {
+    Drawing d;
+    RecordingCanvas rec(d);
+    DrawBucklingCaseIcon(rec, picture);
+    for (const DrawCommand& cmd : d.commands) {
+      if (cmd.kind != DrawCommand::Kind::Polyline) continue;
+      EXPECT_NEAR(cmd.points.front().x, 11, 1e-9) << picture;
+      EXPECT_NEAR(cmd.points.back().x, 11, 1e-6) << picture;
+      for (const Point& p : cmd.points) EXPECT_LE(p.x, 11 + 12 + 1e-9) << picture;
+    }
+  }
+}
+
 TEST(SupportSymbols, CantileverDrawsNothingAtItsFreeEnd) {
   // The member ends at x = 84 of 100; a free end has no symbol, so nothing lies right of x = 80.
   Drawing d;
