@@ -421,6 +421,7 @@ void MainForm::buildForm() {
   rl->setSpacing(4);
   auto* picture4 = new PictureBox(session_, "Picture4");
   picture4->setFixedSize(96, 96);
+  picture4->setSquare(true);
   b.picture(picture4);
   auto* profile = new QLabel;
   profile->setObjectName("profileName");
@@ -587,7 +588,7 @@ void MainForm::syncDialogs() {
     const bool listed = std::find(open.begin(), open.end(), it->first) != open.end();
     if (!d) {
       it = dialogs_.erase(it);
-    } else if (!listed && d->property("keptByForm").toBool() == false) {
+    } else if (!listed && !d->property("keptByForm").toBool()) {
       it = dialogs_.erase(it);
       d->close();
     } else {

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "forms/painter_canvas.h"
 #include "forms/session.h"
@@ -24,11 +25,20 @@ void PictureBox::setBackdrop(std::function<void(QPainter&, const QRectF&)> backd
   update();
 }
 
+void PictureBox::setSquare(bool square) {
+  square_ = square;
+  update();
+}
+
 void PictureBox::paintEvent(QPaintEvent* e) {
   QFrame::paintEvent(e);
   QPainter painter(this);
-  const QRectF area = contentsRect();
+  QRectF area = contentsRect();
   painter.setClipRect(area);
+  if (square_) {
+    const double side = std::min(area.width(), area.height());
+    area = QRectF(area.center().x() - side / 2, area.center().y() - side / 2, side, side);
+  }
   if (backdrop_) backdrop_(painter, area);
   const auto& pictures = session_->state().view.pictures;
   auto it = pictures.find(name_);

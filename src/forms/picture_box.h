@@ -18,6 +18,8 @@ class PictureBox : public QFrame {
   const std::string& name() const { return name_; }
   // Draws something of the form's own before the core's drawing (a stock picture, a symbol).
   void setBackdrop(std::function<void(class QPainter&, const QRectF&)> backdrop);
+  // Draws into the largest centred square, so that a figure to scale keeps its proportions.
+  void setSquare(bool square);
 
  signals:
   void clicked();
@@ -30,6 +32,7 @@ class PictureBox : public QFrame {
   Session* session_;
   std::string name_;
   std::function<void(QPainter&, const QRectF&)> backdrop_;
+  bool square_ = false;
 };
 
 }  // namespace vn::forms

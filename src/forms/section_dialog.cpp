@@ -114,6 +114,7 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   figure_ = new PictureBox(session_, key("pic1"));
   figure_->setMinimumSize(170, 170);
   figure_->setToolTip("Click: figure to scale or not");
+  figure_->setSquare(true);
   bindings_->picture(figure_);
   fl->addWidget(figure_);
 
@@ -175,7 +176,6 @@ void SectionDialog::refresh() {
                              ? QString::fromStdString(caption->second)
                              : (s.project.figureNotToScale != 0 ? "Figure not to scale"
                                                                 : "Figure to scale"));
-  figure_->setEnabled(true);
 }
 
 bool SectionDialog::event(QEvent* event) {

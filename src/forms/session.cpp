@@ -1,5 +1,6 @@
 #include "forms/session.h"
 
+#include <QApplication>
 #include <QMessageBox>
 
 #include "core/recalculate.h"
@@ -47,7 +48,8 @@ EventResult Session::fire(const std::string& control, const std::string& text) {
   EventResult r = Fire(state_, control, text);
   if (r.known && !r.question.empty()) {
     const std::string question = r.question;
-    const QString answer = boxes().question(nullptr, QString::fromStdString(question));
+    const QString answer =
+        boxes().question(QApplication::activeWindow(), QString::fromStdString(question));
     r = Fire(state_, control, answer.toStdString());
   }
   emit changed();

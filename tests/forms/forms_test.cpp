@@ -231,6 +231,21 @@ class FormsTest : public QObject {
     QVERIFY(!form->menuAction("mnurecentfile(1)")->isVisible());
   }
 
+  void newOnASavedProjectAsksBeforeItDropsIt() {
+    QStringList asked;
+    boxes().question = [&asked](QWidget*, const QString& q) {
+      asked << q;
+      return QStringLiteral("Cancel");
+    };
+    session->state().project.fileName = "/tmp/hall-b.vnt";
+    QAction* entry = form->menuAction("mnunew");
+    if (!entry->isEnabled()) QSKIP("the core has no New entry yet");
+    entry->trigger();
+    if (asked.isEmpty()) QSKIP("the core asks nothing before New yet");
+    QCOMPARE(asked, QStringList{"Do you want to save the actual project?"});
+    QCOMPARE(session->state().project.fileName, std::string("/tmp/hall-b.vnt"));  // Cancel keeps all
+  }
+
   void recentEntriesShowWhatTheViewHolds() {
     auto& v = session->state().view;
     v.visible["mnurecentfile(0)"] = true;
