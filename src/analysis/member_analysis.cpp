@@ -1,9 +1,296 @@
-// Internal forces and deflections; the beam solver lands with the analysis.
+// The member analysis: check grid, loads cleaned for the section family, unit solutions, the load
+// combination, extremes. Closed-form superposition of linear solutions; no second-order effect.
+#include "analysis/member_analysis.h"
+
+#include <cmath>
+
+#include "analysis/analysis.h"
 #include "core/pipeline.h"
 #include "core/state.h"
 
 namespace vn {
 
-void MemberAnalysis(State&) {}
+namespace {
+
+// Load case of a slot: 0 G, 1 Q1, 2 Q2. A case held as a float is Q1 only when exactly 1.0.
+int CaseOf(double code) { return code == 0 ? 0 : code == 1 ? 1 : 2; }
+
+// Families that carry bending about y only: HSQ, T, box with unequal flanges, flat bar, plates.
+bool OneAxisFamily(int type) {
+  return type == 24 || type == 25 || type == 27 || type == 28 || (type >= 51 && type <= 56);
+}
+
+struct Factors {
+  double F[3] = {0, 0, 0};  // ULS factor of G, Q1, Q2
+  double S[3] = {0, 0, 0};  // SLS factor
+  bool basic = false;       // "Basic loads": 1 for a ticked slot, 0 otherwise, whatever the case
+};
+
+Factors FactorsOf(const State& s, CombForm form) {
+  const Project& p = s.project;
+  const CombinationFactors& c = s.comb;
+  Factors f;
+  const double psiQ1 = p.psiQ1, psiQ2 = p.psiQ2, KFI = c.KFI, KFIG = c.KFIG;
+  f.S[0] = 1;
+  f.S[1] = 1;
+  f.S[2] = psiQ2;
+  switch (form) {
+    case CombForm::Eq610:
+      f.F[0] = c.gammaG_610 * KFIG;
+      f.F[1] = c.gammaQ1_610 * KFI;
+      f.F[2] = c.gammaQ2_610 * KFI * psiQ1;  // psi of the main load's list, as the program has it
+      break;
+    case CombForm::Eq610a:
+      f.F[0] = c.gammaG_610a * KFIG;
+      f.F[1] = c.gammaQ1_610a * KFI * psiQ1;
+      f.F[2] = c.gammaQ2_610a * KFI * psiQ2;
+      break;
+    case CombForm::Eq610b:
+      f.F[0] = c.gammaG_610b * KFIG * c.xi;
+      f.F[1] = 1.5 * KFI;  // the 1.5 of Eq 6.10b is a constant
+      f.F[2] = 1.5 * KFI * psiQ2;
+      break;
+    case CombForm::UserFactors:
+      f.F[0] = p.LfULS_G;
+      f.F[1] = p.LfULS_Q1;
+      f.F[2] = p.LfULS_Q2;
+      f.S[0] = p.LfSLS_G;
+      f.S[1] = p.LfSLS_Q1;
+      f.S[2] = p.LfSLS_Q2;
+      break;
+    case CombForm::BasicLoads:
+      f.basic = true;
+      break;
+    case CombForm::None:
+      f.S[0] = f.S[1] = f.S[2] = 0;
+      break;
+  }
+  return f;
+}
+
+// Adds one routed slot with its factors to the diagrams and the check points.
+void AddSlot(Analysis& an, const UnitColumn& z, const UnitColumn& y, double F, double S) {
+  for (int k = 0; k <= 50; ++k) {
+    an.MyGrid[k] = ToSingle(an.MyGrid[k] + F * z.M[k]);
+    an.VzGrid[k] = ToSingle(an.VzGrid[k] + F * z.V[k]);
+    an.dzGrid[k] = ToSingle(an.dzGrid[k] + S * z.d[k]);
+    an.MzGrid[k] = ToSingle(an.MzGrid[k] + F * y.M[k]);
+    an.VyGrid[k] = ToSingle(an.VyGrid[k] + F * y.V[k]);
+    an.dyGrid[k] = ToSingle(an.dyGrid[k] + S * y.d[k]);
+  }
+  for (int i = 0; i <= an.NPoints; ++i) {
+    an.MyPt[i] = ToSingle(an.MyPt[i] + F * z.Mc[i]);
+    an.VzPt[i] = ToSingle(an.VzPt[i] + F * z.Vc[i]);
+    an.MzPt[i] = ToSingle(an.MzPt[i] + F * y.Mc[i]);
+    an.VyPt[i] = ToSingle(an.VyPt[i] + F * y.Vc[i]);
+  }
+}
+
+void RunControlsOnce(State& s) {
+  if (s.analysis.controlRunner)
+    s.analysis.controlRunner(s);
+  else
+    RunControls(s);
+}
+
+// One equation of Eq 6.10a/b: combine, extremes, governing moments, the controls. Returns the
+// larger of the two governing ratios, or false when a control raised the calculation error.
+bool TryEquation(State& s, CombForm form, double& ratio) {
+  Analysis& an = s.analysis;
+  CombineLoads(s, form);
+  an.IRsection = 0;
+  an.IRbuckling = 0;
+  ForceExtremes(s);
+  GoverningMoments(s);
+  RunControlsOnce(s);
+  if (s.project.calcError == -1) return false;
+  ratio = std::max(an.IRsection, an.IRbuckling);
+  return true;
+}
+
+}  // namespace
+
+void ComputeCheckGrid(State& s) {
+  const Project& p = s.project;
+  Analysis& an = s.analysis;
+  const double L = p.L;
+  if (p.ChPointMode != 1) {
+    // "11 even distributed points && Max/Min My/Mz": the tenth points, then two points beside each
+    // point load, in the order of the slots.
+    an.NPoints = 10;
+    for (int i = 0; i <= 10; ++i) an.ChPointXrel[i] = ToSingle(i / 10.0);
+    for (int j = 1; j <= 8; ++j) {
+      const Single x = s.loads.point[j].x;
+      if (x == 0 || x == p.L) continue;
+      an.ChPointXrel[++an.NPoints] = ToSingle(Div(x * 0.999, L));
+      an.ChPointXrel[++an.NPoints] = ToSingle(Div(x * 1.001, L));
+    }
+    return;
+  }
+  // The user's points.
+  const int count = p.ChPointCount == 1 ? 1 : p.ChPointCount == 2 ? 2 : 3;
+  an.NPoints = static_cast<Integer>(count - 1);
+  for (int i = 0; i < count; ++i) an.ChPointXrel[i] = ToSingle(Div(p.ChPointX[i + 1], L));
+}
+
+void CleanLoadsForSection(State& s) {
+  const int type = s.project.ProfileType;
+  Loads& l = s.loads;
+  if (OneAxisFamily(type)) {
+    if (type != 28)
+      for (int i = 1; i <= 3; ++i) l.axial[i].N = 0;
+    for (int i = 1; i <= 4; ++i) {
+      if (l.uniform[i].Dir == 0) l.uniform[i].q = 0;
+      l.uniform[i].Dir = 1;
+    }
+    for (int i = 1; i <= 3; ++i) {
+      if (l.trapezoid[i].Dir == 0) {
+        l.trapezoid[i].q1 = 0;
+        l.trapezoid[i].q2 = 0;
+        l.trapezoid[i].Dir = 1.0f;
+      }
+    }
+    for (int i = 1; i <= 8; ++i) {
+      PointLoad& pl = l.point[i];
+      if (pl.Dir == 0) {
+        pl.Dir = 1;
+        pl.Value = 0;
+        pl.Case = 0;
+        pl.x = 0;
+      }
+    }
+  }
+  if (type == 26) {
+    for (int i = 1; i <= 4; ++i) l.uniform[i].q = 0;
+    for (int i = 1; i <= 3; ++i) {
+      TrapezoidLoad& t = l.trapezoid[i];
+      t.q1 = t.q2 = t.x1 = t.x2 = 0;
+    }
+    for (int i = 1; i <= 8; ++i) {
+      l.point[i].Value = 0;
+      l.point[i].x = 0;
+    }
+  }
+}
+
+void SetSelfweightSlot(State& s) {
+  UniformLoad& u = s.loads.uniform[0];
+  if (s.project.SelfweightOn == 1) {
+    u.q = ToSingle(s.section.g * 0.01);  // kg/m to kN/m with the program's rounded gravity
+    u.Case = 0;
+    u.Dir = 1;
+    u.Checked = True;
+  } else {
+    u.q = 0;
+    u.Checked = False;
+  }
+}
+
+void SolveAllSlots(State& s) {
+  for (int i = 0; i <= 4; ++i) SolveUniform(s, i, s.loads.uniform[i].q);
+  for (int i = 1; i <= 3; ++i) SolveTrapezoid(s, i);
+  SplitPointLoads(s);
+  for (int i = 1; i <= 8; ++i) SolvePointForce(s, i);
+  for (int i = 1; i <= 8; ++i) SolvePointMoment(s, i);
+  for (int i = 0; i <= 4; ++i) RouteUniform(s, i);
+  for (int i = 1; i <= 3; ++i) RouteTrapezoid(s, i);
+  for (int i = 1; i <= 8; ++i) RoutePointForce(s, i);
+  for (int i = 1; i <= 8; ++i) RoutePointMoment(s, i);
+}
+
+void CombineLoads(State& s, CombForm form) {
+  Analysis& an = s.analysis;
+  const Loads& l = s.loads;
+  const UnitSolutions& u = an.unit;
+  an.MyGrid.fill(0);
+  an.VzGrid.fill(0);
+  an.dzGrid.fill(0);
+  an.MzGrid.fill(0);
+  an.VyGrid.fill(0);
+  an.dyGrid.fill(0);
+  if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
+  for (int i = 0; i <= an.NPoints; ++i) an.MyPt[i] = an.VzPt[i] = an.VyPt[i] = an.MzPt[i] = 0;
+  an.NEd = 0;
+  an.qTotal = 0;
+
+  const Factors f = FactorsOf(s, form);
+  auto F = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.F[c]; };
+  auto S = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.S[c]; };
+
+  for (int i = 1; i <= 3; ++i) {
+    const AxialLoad& a = l.axial[i];
+    an.NEd += F(CaseOf(a.Case), a.Checked) * a.N;
+  }
+  for (int i = 0; i <= 4; ++i) {
+    const UniformLoad& q = l.uniform[i];
+    const int c = CaseOf(q.Case);
+    an.qTotal += F(c, q.Checked) * q.q;
+    AddSlot(an, u.uniform.z[i], u.uniform.y[i], F(c, q.Checked), S(c, q.Checked));
+  }
+  for (int i = 1; i <= 3; ++i) {
+    const TrapezoidLoad& t = l.trapezoid[i];
+    const int c = CaseOf(t.Case);
+    AddSlot(an, u.trapezoid.z[i], u.trapezoid.y[i], F(c, t.Checked), S(c, t.Checked));
+  }
+  for (int i = 1; i <= 8; ++i) {
+    const PointLoad& pl = l.point[i];
+    const int c = CaseOf(pl.Case);
+    AddSlot(an, u.force.z[i], u.force.y[i], F(c, pl.Checked), S(c, pl.Checked));
+  }
+  for (int i = 1; i <= 8; ++i) {
+    const PointLoad& pl = l.point[i];
+    const int c = CaseOf(pl.Case);
+    AddSlot(an, u.moment.z[i], u.moment.y[i], F(c, pl.Checked), S(c, pl.Checked));
+  }
+}
+
+void GoverningMoments(State& s) {
+  Analysis& an = s.analysis;
+  an.MyGov = std::fabs(an.MyMax) > std::fabs(an.MyMin) ? an.MyMax : an.MyMin;
+  an.MzGov = std::max(std::fabs(an.MzMax), std::fabs(an.MzMin));
+}
+
+void MemberAnalysis(State& s) {
+  Project& p = s.project;
+  Analysis& an = s.analysis;
+  ComputeCheckGrid(s);
+
+  if (p.AnalysisMode != 1) {
+    EndForcePath(s);
+    GoverningMoments(s);
+    return;
+  }
+
+  CleanLoadsForSection(s);
+  SetSelfweightSlot(s);
+  SolveAllSlots(s);
+
+  switch (p.LoadCombMode) {
+    case 0: CombineLoads(s, CombForm::Eq610); break;
+    case 1: CombineLoads(s, CombForm::Eq610a); break;
+    case 2: CombineLoads(s, CombForm::Eq610b); break;
+    case 3: {
+      // Both equations run through the controls; the higher utilisation governs, 6.10b on a tie.
+      double A = 0, B = 0;
+      if (!TryEquation(s, CombForm::Eq610a, A)) return;
+      if (!TryEquation(s, CombForm::Eq610b, B)) return;
+      if (A > B) {
+        an.GoverningEquation = 1;
+        CombineLoads(s, CombForm::Eq610a);
+      } else {
+        an.GoverningEquation = 2;
+        CombineLoads(s, CombForm::Eq610b);
+      }
+      break;
+    }
+    case 4: CombineLoads(s, CombForm::UserFactors); break;
+    case 5: CombineLoads(s, CombForm::BasicLoads); break;
+    default: CombineLoads(s, CombForm::None); break;  // no such combination: nothing acts
+  }
+
+  ForceExtremes(s);
+  DeflectionText(s);
+  GoverningMoments(s);
+}
 
 }  // namespace vn

@@ -2,9 +2,11 @@
 
 #include <sstream>
 
+#include "core/file_actions.h"
 #include "core/format.h"
 #include "core/state.h"
 #include "results/summary.h"
+#include "sections/section_dialogs.h"
 
 namespace vn::cli {
 
@@ -27,7 +29,12 @@ std::string ProjectText(const State& s) {
   auto f = [](double v, const char* pattern) { return FormatNumber(v, pattern); };
   o << s.view.caption << "\n";
   o << "Project: " << p.projectName << "   Ident: " << p.projectIdent << "\n";
-  o << "Section: " << p.profileName << " (ProfileType " << p.ProfileType << ")\n";
+  std::string section = p.profileName;
+  if (const SectionDialogInfo* d = SectionDialogOfType(p.ProfileType)) {
+    auto name = s.view.text.find(std::string(d->form) + ".oname");
+    if (name != s.view.text.end() && !name->second.empty()) section = name->second;
+  }
+  o << "Section: " << section << " (ProfileType " << p.ProfileType << ")\n";
   std::string grade = p.steelGrade >= 0 && p.steelGrade <= s.steel.gradeLast && p.steelGrade < 31
                           ? s.steel.rows[static_cast<size_t>(p.steelGrade)].name
                           : std::string("?");
@@ -80,14 +87,16 @@ std::string DetailText(const State&) {
   return "The table of detailed results is not available yet.\n";
 }
 
-bool OpenProject(State&, const std::string& path, std::string* error) {
-  *error = "varnelt-cli: reading project files is not available yet: " + path;
-  return false;
+bool OpenProject(State& s, const std::string& path, std::string* error) {
+  EventResult r = OpenAction(s, path);
+  if (r.refused) *error = r.message;
+  return !r.refused;
 }
 
-bool SaveProject(State&, const std::string& path, std::string* error) {
-  *error = "varnelt-cli: saving project files is not available yet: " + path;
-  return false;
+bool SaveProject(State& s, const std::string& path, std::string* error) {
+  EventResult r = SaveAsAction(s, path);
+  if (r.refused) *error = r.message;
+  return !r.refused;
 }
 
 }  // namespace vn::cli

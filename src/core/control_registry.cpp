@@ -1,11 +1,16 @@
 #include "core/control_registry.h"
 
 #include "core/events.h"
+#include "core/file_actions.h"
 
 namespace vn {
 
 void RegisterAllControls(ControlTable& t) {
   RegisterMainFormControls(t);
+  RegisterSetupControls(t);
+  RegisterSectionControls(t);
+  RegisterAnalysisControls(t);
+  RegisterFileMenuControls(t);
 }
 
 }  // namespace vn

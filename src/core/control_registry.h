@@ -7,6 +7,9 @@ namespace vn {
 class ControlTable;
 
 void RegisterMainFormControls(ControlTable& t);
+void RegisterSetupControls(ControlTable& t);
+void RegisterSectionControls(ControlTable& t);
+void RegisterAnalysisControls(ControlTable& t);
 
 void RegisterAllControls(ControlTable& t);
 

@@ -92,4 +92,78 @@ void VisitSection(V& v, S& c) {
   VN_F(c, channelKind);
 }
 
+template <class V, class A>
+void VisitAnalysis(V& v, A& a) {
+  VN_F(a, NPoints); VN_F(a, ChPointXrel);
+  VN_F(a, MyGrid); VN_F(a, VzGrid); VN_F(a, MzGrid); VN_F(a, VyGrid); VN_F(a, dzGrid); VN_F(a, dyGrid);
+  VN_F(a, MyPt); VN_F(a, VzPt); VN_F(a, VyPt); VN_F(a, MzPt); VN_F(a, NEd); VN_F(a, qTotal);
+  VN_F(a, MyMax); VN_F(a, MyMin); VN_F(a, MzMax); VN_F(a, MzMin);
+  VN_F(a, VzMax); VN_F(a, VzMin); VN_F(a, VyMax); VN_F(a, VyMin);
+  VN_F(a, MyMaxPos); VN_F(a, MyMinPos); VN_F(a, MzMaxPos); VN_F(a, MzMinPos);
+  VN_F(a, VzMaxPos); VN_F(a, VzMinPos); VN_F(a, VyMaxPos); VN_F(a, VyMinPos);
+  VN_F(a, dzMax); VN_F(a, dzMin); VN_F(a, dyMax); VN_F(a, dyMin); VN_F(a, dzAbs); VN_F(a, dyAbs);
+  VN_F(a, MyAbs); VN_F(a, MzAbs);
+  auto points = [&](const char* name, auto& f) {
+    v.Object(name, [&] { VN_F(f, M1); VN_F(f, M2); VN_F(f, M3); VN_F(f, M4); VN_F(f, M5); });
+  };
+  points("PointsY", a.PointsY);
+  points("PointsZ", a.PointsZ);
+  auto shape = [&](const char* name, auto& f) {
+    v.Object(name, [&] {
+      VN_F(f, Curved); VN_F(f, MidDominates); VN_F(f, Linear); VN_F(f, Psi); VN_F(f, AlphaS); VN_F(f, AlphaH);
+    });
+  };
+  shape("ShapeY", a.ShapeY);
+  shape("ShapeZ", a.ShapeZ);
+  VN_F(a, InflectionY1); VN_F(a, InflectionY2); VN_F(a, InflectionZ1); VN_F(a, InflectionZ2);
+  VN_F(a, MyGov); VN_F(a, MzGov); VN_F(a, GoverningEquation);
+  auto text = [&](const char* name, auto& f) {
+    v.Object(name, [&] { VN_F(f, Formula); VN_F(f, Numbers); VN_F(f, Ratio); VN_F(f, Limit); });
+  };
+  text("deflTextZ", a.deflTextZ);
+  text("deflTextY", a.deflTextY);
+  VN_F(a, colDeflZ); VN_F(a, colDeflY); VN_F(a, IRdeflZ); VN_F(a, IRdeflY);
+  VN_F(a, IRsection); VN_F(a, IRbuckling); VN_F(a, IRlimit);
+  VN_F(a, ModalMass); VN_F(a, ModalFreq);
+}
+
+template <class V, class C>
+void VisitCombination(V& v, C& c) {
+  VN_F(c, gammaG_610); VN_F(c, gammaQ1_610); VN_F(c, gammaQ2_610);
+  VN_F(c, gammaG_610a); VN_F(c, gammaQ1_610a); VN_F(c, gammaQ2_610a);
+  VN_F(c, gammaG_610b); VN_F(c, xi); VN_F(c, KFIG); VN_F(c, KFI);
+  VN_F(c, text610); VN_F(c, text610a); VN_F(c, text610b); VN_F(c, textSLS);
+  VN_F(c, textULSUser); VN_F(c, textSLSUser); VN_F(c, textBasic);
+}
+
+template <class V, class T>
+void VisitControlText(V& v, const char* name, T& t) {
+  v.Object(name, [&] { VN_F(t, Formula); VN_F(t, Numbers); VN_F(t, Ratio); VN_F(t, Limit); });
+}
+
+template <class V, class C>
+void VisitChecks(V& v, C& c) {
+  VN_F(c, IRsec);
+  for (int i = 1; i <= 6; ++i) {
+    static const char* names[7] = {"", "secText1", "secText2", "secText3", "secText4", "secText5", "secText6"};
+    VisitControlText(v, names[i], c.secText[static_cast<size_t>(i)]);
+  }
+  VN_F(c, colSec);
+  VN_F(c, IRbuckY); VN_F(c, IRbuckZ); VN_F(c, IRbuckLT);
+  VisitControlText(v, "buckTextY", c.buckTextY);
+  VisitControlText(v, "buckTextZ", c.buckTextZ);
+  VisitControlText(v, "buckTextLT", c.buckTextLT);
+  VN_F(c, colBuckY); VN_F(c, colBuckZ); VN_F(c, colLT);
+  VN_F(c, Mcr); VN_F(c, C1); VN_F(c, C2); VN_F(c, C3); VN_F(c, lamdaLT); VN_F(c, Mcr0);
+  VN_F(c, lamda0); VN_F(c, XLt); VN_F(c, xLT); VN_F(c, kc); VN_F(c, fLT);
+  VN_F(c, Ncry); VN_F(c, lamday); VN_F(c, chiy); VN_F(c, Ncrz); VN_F(c, lamdaz); VN_F(c, chiz);
+  VN_F(c, NcrT); VN_F(c, NcrTF);
+  VN_F(c, kyy); VN_F(c, kyz); VN_F(c, kzz); VN_F(c, kzy);
+  VN_F(c, Cmy); VN_F(c, Cmy0); VN_F(c, Cmz); VN_F(c, CmLt);
+  VN_F(c, Cyy); VN_F(c, Cyz); VN_F(c, Czy); VN_F(c, Czz);
+  VN_F(c, aLt); VN_F(c, bLt); VN_F(c, cLt); VN_F(c, dLt); VN_F(c, eLt);
+  VN_F(c, npl); VN_F(c, uy); VN_F(c, uz); VN_F(c, wy); VN_F(c, wz); VN_F(c, ey);
+  VN_F(c, curveTextY); VN_F(c, curveTextZ);
+}
+
 }  // namespace vn

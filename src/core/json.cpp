@@ -204,6 +204,9 @@ std::string StateToJson(const State& s) {
   w.Object("Project", [&] { VisitProject(w, s.project); });
   w.Object("Loads", [&] { VisitLoads(w, s.loads); });
   w.Object("Section", [&] { VisitSection(w, s.section); });
+  w.Object("CombinationFactors", [&] { VisitCombination(w, s.comb); });
+  w.Object("Checks", [&] { VisitChecks(w, s.checks); });
+  w.Object("Analysis", [&] { VisitAnalysis(w, s.analysis); });
   w.Object("SteelGrades", [&] {
     w.Key("rows");
     w.Open('[');

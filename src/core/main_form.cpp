@@ -174,7 +174,8 @@ void RegisterMainFormControls(ControlTable& t) {
   AddControl(t, "", "cbofyk", [](State& s, int, std::string_view text) {
     Project& p = s.project;
     int index = ChoiceIndex(text);
-    if (index < 0 || index > 30) {
+    // The list holds the rows read, at most the 31 of the table.
+    if (index < 0 || index > 30 || index > s.steel.gradeLast) {
       EventResult r;
       r.refused = true;
       r.message = "No such steel grade: " + std::string(text);
@@ -185,9 +186,13 @@ void RegisterMainFormControls(ControlTable& t) {
     if (index == s.steel.gradeLast) {
       s.view.enabled["ifyk"] = true;
     } else {
-      SelectYieldStrength(s, p.steelGrade);
+      try {
+        SelectYieldStrength(s, p.steelGrade);
+      } catch (const CalcFault&) {
+        // A grade without strengths: the recalculation below shows the message.
+      }
       s.view.enabled["ifyk"] = false;
-      s.view.text["ifyk"] = FormatNumber(p.fyk, "#000", s.decimalComma);
+      s.view.text["ifyk"] = SingleText(p.fyk, s.decimalComma);  // as plain text
     }
     AfterFykChange(s);
     return EventResult{};
@@ -225,11 +230,6 @@ void RegisterMainFormControls(ControlTable& t) {
     return OnModalCheck(s, ChoiceIndex(text) == 1);
   });
 
-  AddControl(t, "", "mnunew", [](State& s, int, std::string_view) {
-    NewProject(s);
-    Recalculate(s);
-    return EventResult{};
-  });
 }
 
 void RefreshMainForm(State& s) {

@@ -2,10 +2,14 @@
 // recalculation and what the forms show. Every routine is a free function taking the State.
 #pragma once
 
+#include <memory>
 #include <string>
 
+#include "analysis/analysis.h"
 #include "analysis/loads.h"
+#include "checks/checks.h"
 #include "core/project.h"
+#include "core/settings_store.h"
 #include "core/view.h"
 #include "design/combination.h"
 #include "design/steel.h"
@@ -17,6 +21,8 @@ namespace vn {
 struct State {
   Project project;
   Loads loads;
+  Analysis analysis;
+  Checks checks;
   Section section;
   Catalogues catalogues;
   SteelGrades steel;
@@ -26,6 +32,9 @@ struct State {
   Single NEdAbs = 0;         // working axial force of the section classes and controls
 
   std::string appPath;       // the program's folder, where its data files lie
+  std::string currentDir;    // the start folder of the file dialogs
+  // The per-user settings store of the recent files; in memory unless a front end sets another.
+  std::shared_ptr<SettingsStore> settings = std::make_shared<MemorySettingsStore>();
   bool decimalComma = false; // the user's locale writes 1,1 for 1.1
   int recalcCount = 0;       // runs of Recalculate, for tests and the command line
 };

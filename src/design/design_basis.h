@@ -9,29 +9,63 @@ namespace vn {
 
 struct State;
 
+// ---- Design codes (codes.cpp) ----
+
+// Index of the last code in the list Cbo1993 ("EC3 - User defined").
+inline constexpr int kCodeLast = 8;
+// The code whose factors the user types.
+inline constexpr int kCodeUserDefined = 8;
+
 // Fixed factors of a code; an index outside 0..7 changes nothing.
 void SetCodeFactors(State& s, int codeIndex);
-// Combination factors and texts of a code.
-void SetCombinationFactors(State& s, int codeIndex);
-// The lines of the Setup dialog's list of formulas in force.
-void RebuildCombinationList(State& s);
 // Index of a code id; an unknown id maps to 0.
 Integer CodeIndexFromId(const std::string& codeId);
-// The two letters of a code index.
+// The two letters of a code index; "" outside 0..8.
 std::string CodeIdFromIndex(int codeIndex);
-// Display name of a code ("EC3 + NA/Norway") and its title suffix (" + NA/Norway").
+// Display name of a code ("EC3 + NA/Norway") and its title suffix (" + NA/Norway"); "" outside
+// 0..8.
 std::string CodeDisplayName(int codeIndex);
 std::string CodeTitleSuffix(int codeIndex);
 
+// The main form's caption: "Varnelt EC3" + title suffix + ": " + fileName.
+void BuildCaption(State& s);
+
+// ---- Load combinations (combinations.cpp) ----
+
+// Text of a load combination mode in the lists CboLoadComb ("EN 1990 Eq 6.10" ... "Basic loads");
+// "" outside 0..5.
+std::string LoadCombText(int mode);
+inline constexpr int kLoadCombModes = 6;
+
+// psi of a list index of Cbo_Q1_Psi1 / Cbo_Q2_Psi2: (index + 1) * 0.1.
+Single PsiOfIndex(int index);
+// Combination factors and texts of a code; an index outside 0..8 changes nothing.
+void SetCombinationFactors(State& s, int codeIndex);
+// The texts of the modes "ULS/SLS" and "Basic loads", from the user's load factors.
+void BuildLoadFactorTexts(State& s);
+// The lines of the Setup dialog's list of formulas in force, and the refill of its code fields.
+void RebuildCombinationList(State& s);
+// The class frames of the Setup dialog: which is shown, its caption, the option selected.
+void SetClassFrames(State& s);
+// A choice in a psi list (list 1 Cbo_Q1_Psi1, list 2 Cbo_Q2_Psi2), in the Setup or Loading dialog.
+void OnPsiChoice(State& s, int list, int index);
+
+// ---- Steel grades (steel_grades.cpp) ----
+
+inline constexpr const char* kSteelGradeFile = "VarneltECmat.dat";
 // Steel grade table "VarneltECmat.dat" in the program's folder.
 void ReadSteelGrades(State& s);
-// Setup file "VarneltEC3Setup.dat" in the program's folder.
+
+// ---- Setup file and start-up (setup_file.cpp) ----
+
+inline constexpr const char* kSetupFile = "VarneltEC3Setup.dat";
+// Setup file "VarneltEC3Setup.dat" in the program's folder. Both swallow every error.
 void ReadSetupFile(State& s);
 void WriteSetupFile(State& s);
 // The start-up sequence: steel grades, catalogues, setup file, derived factors and texts.
 void LoadSettings(State& s);
-
-// The main form's caption: "Varnelt EC3" + title suffix + ": " + fileName.
-void BuildCaption(State& s);
+// What a read project derives from its stored settings: psi from the indices, codeIndex from
+// codeId, SetCodeFactors, SetCombinationFactors.
+void DeriveProjectSettings(State& s);
 
 }  // namespace vn

@@ -1,9 +1,102 @@
-// The values of the open section dialog; the family blocks land with the families.
+// The values of the open section dialog: the dimension block and the property block of the family,
+// each line a label, the value in the family's format and the unit.
+#include "core/format.h"
 #include "core/pipeline.h"
 #include "core/state.h"
 
 namespace vn {
 
-void ShowSectionValues(State&) {}
+namespace {
+
+struct Block {
+  State& s;
+  void Line(const char* label, double value, const char* format, const char* unit) {
+    s.view.sectionValues.push_back({label, FormatNumber(value, format, s.decimalComma), unit});
+  }
+};
+
+// The frame "Dimension && Weight": whole millimetres as "#0", values with a decimal as "#0.0".
+enum class Dims { RolledI, Inp, Upe, Unp, British, BritishChannel };
+
+void DimensionBlock(Block& out, const Section& c, Dims kind, bool toeRadius) {
+  const bool decimals = kind == Dims::British || kind == Dims::BritishChannel;
+  const char* whole = decimals ? "#0.0" : "#0";
+  out.Line("h =", c.h, whole, " mm");
+  out.Line("b =", c.b, whole, " mm");
+  out.Line("tf =", c.tf, "#0.0", " mm");
+  out.Line("tw =", c.tw, "#0.0", " mm");
+  switch (kind) {
+    case Dims::Inp:
+      break;  // no radius in the table
+    case Dims::Unp:
+      out.Line("r1 =", c.r1, "#0.0", " mm");
+      out.Line("r2 =", c.r2, "#0.0", " mm");
+      break;
+    default:
+      out.Line("r =", c.r, whole, " mm");
+      if (toeRadius) out.Line("r2 =", c.r2, "#0.0", " mm");
+  }
+}
+
+std::string ClassText(const Section& c, bool comma) {
+  return FormatNumber(c.classN, "#0", comma) + "/" + FormatNumber(c.classMy, "#0", comma) + "/" +
+         FormatNumber(c.classMz, "#0", comma);
+}
+
+// The frames "Section property" and "Capacity" of the I-like families and the channels.
+void PropertyBlock(Block& out, const Section& c) {
+  out.Line("A =", c.A, "##0", " mm2");
+  out.Line("Ix =", c.Ix, "0.000E+0", " mm4");
+  out.Line("Iy =", c.Iy, "0.000E+0", " mm4");
+  out.Line("Iz =", c.Iz, "0.000E+0", " mm4");
+  out.Line("Wel,y =", c.Wely, "0.000E+0", " mm3");
+  out.Line("Wel,z =", c.Welz, "0.000E+0", " mm3");
+  out.Line("Wpl,y =", c.Wply, "0.000E+0", " mm3");
+  out.Line("Wpl,z =", c.Wplz, "0.000E+0", " mm3");
+  out.Line("Iw =", c.Iw, "0.000E+0", " mm6");
+  out.Line("g =", c.g, "#0.0", " kg/m");
+  out.Line("S =", c.S, "#0.000", " m2/m");
+  out.Line("Aeff =", c.Aeff, "##0", " mm2");
+  out.Line("Weff,y =", c.Weffy, "0.000E+0", " mm3");
+  out.Line("Weff,z =", c.Weffz, "0.000E+0", " mm3");
+  out.s.view.sectionValues.push_back({"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
+  out.Line("Nt,Rd =", c.NtRd, "#0.0", " kN");
+  out.Line("Nc,Rd =", c.NcRd, "#0.0", " kN");
+  out.Line("Vc,y,Rd =", c.VbyRd, "#0.0", " kN");
+  out.Line("Vc,z,Rd =", c.VbzRd, "#0.0", " kN");
+  out.Line("My,Rd =", c.MyRdClass, "#0.0", " kNm");
+  out.Line("Mz,Rd =", c.MzRdClass, "#0.0", " kNm");
+}
+
+}  // namespace
+
+void ShowSectionValues(State& s) {
+  s.view.sectionValues.clear();
+  Block out{s};
+  const Section& c = s.section;
+  switch (s.project.ProfileType) {
+    case 1: case 2: case 3: case 4:
+      DimensionBlock(out, c, Dims::RolledI, false);
+      break;
+    case 15:
+      DimensionBlock(out, c, Dims::Inp, false);
+      break;
+    case 5:
+      DimensionBlock(out, c, Dims::Upe, false);
+      break;
+    case 16:
+      DimensionBlock(out, c, Dims::Unp, false);
+      break;
+    case 101: case 102:
+      DimensionBlock(out, c, Dims::British, false);
+      break;
+    case 103:
+      DimensionBlock(out, c, Dims::BritishChannel, s.project.subFamily103 != 1);
+      break;
+    default:
+      return;  // the other families show their own blocks
+  }
+  PropertyBlock(out, c);
+}
 
 }  // namespace vn

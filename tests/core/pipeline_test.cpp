@@ -5,6 +5,7 @@
 #include "core/json.h"
 #include "core/recalculate.h"
 #include "core/state.h"
+#include "support/test_support.h"
 
 namespace vn {
 namespace {
@@ -72,12 +73,20 @@ TEST(NewProject, KeepsTheSettingsOfThePreviousProject) {
   EXPECT_EQ(s.project.codeId, "DK");
 }
 
-TEST(Recalculate, ClearsTheErrorLabelOfTheRunBefore) {
-  State s = NewState();
-  s.view.txtError = kCalcErrorText;
-  s.view.txtErrorVisible = true;
-  s.project.calcError = -1;
+TEST(Recalculate, AFaultAtAnyDepthEndsInTheOneMessageAndTheNextGoodRunClearsIt) {
+  State s = test::StartedState();
   Recalculate(s);
+  ASSERT_FALSE(s.view.txtErrorVisible);  // the delivered files give a default project that runs
+  // A catalogue row of zeros: the section stage divides by zero.
+  Catalogue saved = s.catalogues.table[catHea];
+  for (int col = 1; col <= 11; ++col) s.catalogues.table[catHea].ref(s.project.SelectedRow[catHea], col) = 0;
+  Recalculate(s);
+  EXPECT_TRUE(s.view.txtErrorVisible);
+  EXPECT_EQ(s.view.txtError,
+            " Calculation Error. Axial load too big. Increase profile or reduce axial force ");
+  // The next input that gives a valid state removes the message.
+  s.catalogues.table[catHea] = saved;
+  EXPECT_FALSE(Fire(s, "il", "6").refused);
   EXPECT_FALSE(s.view.txtErrorVisible);
   EXPECT_EQ(s.project.calcError, 0);
 }

@@ -1,0 +1,309 @@
+// Closed-form unit-load solutions of the single-span beam, one slot at a time, on Grid51 and on the
+// check grid. Formulas are evaluated in double and stored as Single.
+//
+// Conventions: x from the start of the member in m, a the position of the load, b = L - a.
+// M positive when sagging, a positive load acts in the positive axis direction; the deflection is
+// positive in the load direction and is carried as E I d (kN m3) until it is stored.
+// Support types: 0 pinned-pinned, 1 pinned-fixed, 2 fixed-fixed, 3 spring-spring (a mix of 0 and
+// 2), 4 cantilever fixed at x = 0, 5 pinned-spring (a mix of 0 and 1).
+#include <algorithm>
+
+#include "analysis/analysis.h"
+#include "analysis/member_analysis.h"
+#include "core/state.h"
+
+namespace vn {
+
+namespace {
+
+struct Station {
+  double M = 0, V = 0, d = 0;  // kNm, kN, E I d in kN m3
+};
+
+// Uniform load q over the whole span.
+Station UniformBasic(int t, double L, double q, double x) {
+  Station st;
+  const double s = Div(x, L);
+  switch (t) {
+    case 0:
+      st.V = q * L / 2 - q * x;
+      st.M = q * x * (L - x) / 2;
+      st.d = q * L * L * L * x * (1 - 2 * s * s + s * s * s) / 24;
+      break;
+    case 1:
+      st.V = 3 * q * L / 8 - q * x;  // -5 q L / 8 at the fixed end
+      st.M = q * x * (3 * L - 4 * x) / 8;
+      st.d = q * L * L * L * x * (1 - 3 * s * s + 2 * s * s * s) / 48;
+      break;
+    case 2:
+      st.V = q * L / 2 - q * x;
+      st.M = q / 2 * (x * (L - x) - L * L / 6);
+      st.d = q * L * L * x * x * (1 - s) * (1 - s) / 24;
+      break;
+    case 4: {
+      const double c = L - x;
+      st.V = -q * c;  // the cantilever's shear keeps the sign of the load, against dM/dx
+      st.M = -q * c * c / 2;
+      st.d = q * L * L * L * L / 8 - q * L * L * L * c / 6 + q * c * c * c * c / 24;
+      break;
+    }
+  }
+  return st;
+}
+
+// Point force P at a. Left of the load M runs from the start (M(0) + R x), right of it from the
+// end (M(L) - V (L - x)), so that both end values come out exactly.
+Station ForceBasic(int t, double L, double P, double a, double x) {
+  Station st;
+  if (t == 4) {
+    const bool left = x <= a;  // a point at the load sees it
+    st.V = left ? -P : 0;
+    st.M = left ? -P * (a - x) : 0;
+    st.d = left ? P * x * x * (3 * a - x) / 6 : P * a * a * (3 * x - a) / 6;
+    return st;
+  }
+  const double b = L - a;
+  double R = 0, M0 = 0, ML = 0;
+  switch (t) {
+    case 0:
+      R = Div(P * b, L);
+      break;
+    case 1:
+      ML = -(P * a / 2) * (1 - Div(a * a, L * L));
+      R = Div(P * b + ML, L);
+      break;
+    case 2:
+      R = Div(P * b * b * (3 * a + b), L * L * L);
+      M0 = -Div(P * a * b * b, L * L);
+      ML = -Div(P * a * a * b, L * L);
+      break;
+  }
+  // Fixed-fixed: a point at the load takes the left branch; the others the right one.
+  const bool left = t == 2 ? x <= a : x < a;
+  if (left) {
+    st.V = R;
+    st.M = M0 + R * x;
+  } else {
+    st.V = R - P;
+    st.M = ML - (R - P) * (L - x);
+  }
+  // Elastic line: E I d'' = -M, d(0) = d(L) = 0; the end moments make the slopes at fixed ends 0.
+  const double bm = std::max(b, 0.0), xm = std::max(x - a, 0.0);
+  const double C1 = Div(M0 * L * L / 2 + R * L * L * L / 6 - P * bm * bm * bm / 6, L);
+  st.d = C1 * x - M0 * x * x / 2 - R * x * x * x / 6 + P * xm * xm * xm / 6;
+  return st;
+}
+
+// Point moment Mp at a.
+Station MomentBasic(int t, double L, double Mp, double a, double x, bool checkGrid) {
+  Station st;
+  if (t == 4) {
+    const bool left = x <= a;
+    st.V = 0;
+    st.M = left ? -Mp : 0;
+    st.d = left ? Mp * x * x / 2 : Mp * a * (x - a / 2);
+    return st;
+  }
+  const double b = L - a;
+  double M0 = 0, ML = 0;
+  switch (t) {
+    case 1:
+      ML = -(Mp / 2) * (1 - 3 * Div(a * a, L * L));
+      break;
+    case 2:
+      M0 = Div(Mp * b * (2 * a - b), L * L);
+      ML = -Div(Mp * a * (2 * b - a), L * L);
+      break;
+  }
+  const double R = Div(ML - M0 - Mp, L);
+  // A moment standing at the very end of the member: the end point reads the moment inside the
+  // member, and on the check grid it carries no shear.
+  const bool atEnd = x == a && x == L;
+  const bool left = x < a || atEnd;
+  st.V = atEnd && checkGrid ? 0 : R;
+  st.M = left ? M0 + R * x : ML - R * (L - x);
+  const double bm = std::max(b, 0.0), xm = std::max(x - a, 0.0);
+  const double C1 = Div(M0 * L * L / 2 + R * L * L * L / 6 + Mp * bm * bm / 2, L);
+  st.d = C1 * x - M0 * x * x / 2 - R * x * x * x / 6 - Mp * xm * xm / 2;
+  return st;
+}
+
+// The one or two basic solutions of a support type; false for a code with none.
+bool BasicTypes(int type, int& t0, int& t1) {
+  t1 = -1;
+  switch (type) {
+    case 0: case 1: case 2: case 4: t0 = type; return true;
+    case 3: t0 = 0; t1 = 2; return true;
+    case 5: t0 = 0; t1 = 1; return true;
+  }
+  return false;
+}
+
+void CheckSlot(int slot, int first, int last) {
+  if (slot < first || slot > last) Fault("subscript out of range");
+}
+
+// Fills a column from eval(basicType, x, checkGrid). Spring types mix their two solutions, held
+// as Single, by r = SpringPct / 100. momentShearException: the point moment on type 5, whose shear
+// left of the load takes the mixed value once more as its second term (k >= 1 on Grid51, every
+// such check point).
+template <class Eval>
+void FillColumn(const State& s, UnitColumn& col, Eval eval, bool momentShearException, double a) {
+  const Project& p = s.project;
+  const Analysis& an = s.analysis;
+  col = UnitColumn{};
+  int t0 = 0, t1 = -1;
+  if (!BasicTypes(p.SupportType, t0, t1)) return;
+  const double L = p.L;
+  const double r = p.SpringPct / 100.0;
+  const double dScale = static_cast<double>(p.E) * 1E-12;  // E I d in kN m3 -> mm once / I
+
+  struct Values {
+    Single M, V, d;
+  };
+  auto at = [&](double x, bool checkGrid, bool exception) {
+    const Station A = eval(t0, x, checkGrid);
+    if (t1 < 0) {
+      return Values{ToSingle(A.M), ToSingle(A.V), checkGrid ? 0.0f : ToSingle(Div(A.d, dScale))};
+    }
+    const Station B = eval(t1, x, checkGrid);
+    const Single M0 = ToSingle(A.M), M1 = ToSingle(B.M);
+    const Single V0 = ToSingle(A.V), V1 = ToSingle(B.V);
+    Values v;
+    v.M = ToSingle((1 - r) * M0 + r * M1);
+    v.V = ToSingle((1 - r) * V0 + r * V1);
+    if (exception && x < a) v.V = ToSingle((1 - r) * V0 + r * v.V);
+    v.d = 0;
+    if (!checkGrid) {
+      const Single d0 = ToSingle(Div(A.d, dScale)), d1 = ToSingle(Div(B.d, dScale));
+      v.d = ToSingle((1 - r) * d0 + r * d1);
+    }
+    return v;
+  };
+
+  for (int k = 0; k <= 50; ++k) {
+    const double x = k == 0 ? 0.0 : k == 50 ? L : k / 50.0 * L;
+    Values v = at(x, false, momentShearException && k >= 1);
+    // No deflection at a support: both ends but the free end of the cantilever.
+    if (k == 0 || (k == 50 && p.SupportType != 4)) v.d = 0;
+    col.M[k] = v.M;
+    col.V[k] = v.V;
+    col.d[k] = v.d;
+  }
+  if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
+  for (int i = 0; i <= an.NPoints; ++i) {
+    const double x = static_cast<double>(an.ChPointXrel[i]) * L;
+    const Values v = at(x, true, momentShearException);
+    col.Mc[i] = v.M;
+    col.Vc[i] = v.V;
+  }
+}
+
+template <size_t N>
+void Route(const State& s, UnitSet<N>& set, int slot, bool toY) {
+  set.z[slot] = UnitColumn{};
+  set.y[slot] = UnitColumn{};
+  const UnitColumn& src = set.solved[slot];
+  UnitColumn& dst = toY ? set.y[slot] : set.z[slot];
+  const double I = toY ? s.section.Iz : s.section.Iy;
+  dst.M = src.M;
+  dst.V = src.V;
+  dst.Mc = src.Mc;
+  dst.Vc = src.Vc;
+  for (int k = 0; k <= 50; ++k) dst.d[k] = ToSingle(Div(src.d[k], I));
+}
+
+}  // namespace
+
+void SolveUniform(State& s, int slot, Single q) {
+  CheckSlot(slot, 0, 4);
+  const double L = s.project.L, qd = q;
+  FillColumn(
+      s, s.analysis.unit.uniform.solved[slot],
+      [&](int t, double x, bool) { return UniformBasic(t, L, qd, x); }, false, 0.0);
+}
+
+// The trapezoid is carried as 20 point forces, one for each strip of equal width.
+void SolveTrapezoid(State& s, int slot) {
+  CheckSlot(slot, 1, 3);
+  const TrapezoidLoad& t = s.loads.trapezoid[slot];
+  const double L = s.project.L;
+  const double dq = (static_cast<double>(t.q2) - t.q1) / 20;
+  const double dx = (static_cast<double>(t.x2) - t.x1) / 20;
+  std::array<Single, 21> P{}, a{};
+  for (int j = 1; j <= 20; ++j) {
+    P[j] = ToSingle((t.q1 + (j - 0.5) * dq) * dx);
+    a[j] = ToSingle(t.x1 + (j - 0.5) * dx);
+  }
+  FillColumn(
+      s, s.analysis.unit.trapezoid.solved[slot],
+      [&](int type, double x, bool) {
+        Station sum;
+        for (int j = 1; j <= 20; ++j) {
+          const Station st = ForceBasic(type, L, P[j], a[j], x);
+          sum.M += st.M;
+          sum.V += st.V;
+          sum.d += st.d;
+        }
+        return sum;
+      },
+      false, 0.0);
+}
+
+void SplitPointLoads(State& s) {
+  UnitSolutions& u = s.analysis.unit;
+  u.forceValue.fill(0);
+  u.momentValue.fill(0);
+  for (int i = 1; i <= 8; ++i) {
+    const PointLoad& pl = s.loads.point[i];
+    if (pl.Kind == 1)
+      u.momentValue[i] = pl.Value;
+    else
+      u.forceValue[i] = pl.Value;
+  }
+}
+
+void SolvePointForce(State& s, int slot) {
+  CheckSlot(slot, 1, 8);
+  const double L = s.project.L;
+  const double P = s.analysis.unit.forceValue[slot];
+  const double a = s.loads.point[slot].x;
+  FillColumn(
+      s, s.analysis.unit.force.solved[slot],
+      [&](int t, double x, bool) { return ForceBasic(t, L, P, a, x); }, false, a);
+}
+
+void SolvePointMoment(State& s, int slot) {
+  CheckSlot(slot, 1, 8);
+  const double L = s.project.L;
+  const double Mp = s.analysis.unit.momentValue[slot];
+  const double a = s.loads.point[slot].x;
+  FillColumn(
+      s, s.analysis.unit.moment.solved[slot],
+      [&](int t, double x, bool checkGrid) { return MomentBasic(t, L, Mp, a, x, checkGrid); },
+      s.project.SupportType == 5, a);
+}
+
+// Routing: a Z load (Dir 1; My for a moment) goes to My, Vz, dz and its deflection is divided by
+// Iy; a Y load (Dir 0; Mz for a moment) to Mz, Vy, dy, divided by Iz.
+void RouteUniform(State& s, int slot) {
+  CheckSlot(slot, 0, 4);
+  Route(s, s.analysis.unit.uniform, slot, s.loads.uniform[slot].Dir == 0);
+}
+
+void RouteTrapezoid(State& s, int slot) {
+  CheckSlot(slot, 1, 3);
+  Route(s, s.analysis.unit.trapezoid, slot, s.loads.trapezoid[slot].Dir == 0.0f);
+}
+
+void RoutePointForce(State& s, int slot) {
+  CheckSlot(slot, 1, 8);
+  Route(s, s.analysis.unit.force, slot, s.loads.point[slot].Dir == 0);
+}
+
+void RoutePointMoment(State& s, int slot) {
+  CheckSlot(slot, 1, 8);
+  Route(s, s.analysis.unit.moment, slot, s.loads.point[slot].Dir == 0);
+}
+
+}  // namespace vn

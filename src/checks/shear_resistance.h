@@ -1,0 +1,21 @@
+// Shear resistance of the web with the flange contribution (EN 1993-1-5, 5.2 to 5.4) and of the
+// flanges, as the section controls divide by it at each check point.
+#pragma once
+
+#include <string>
+
+namespace vn {
+
+struct State;
+
+inline constexpr const char* kShearSuffixStocky = ")";
+inline constexpr const char* kShearSuffixSlender = " Support stiffener recommended)";
+
+// Sets VbzRd and VbyRd of the section and reduces MfyRd in place for the axial force, so that with
+// an axial force it shrinks a little at every call of a run. NEd is the axial force of the member in
+// kN, compression positive; MyEd the magnitude of the moment at the check point in kNm.
+// Returns the end of the shear control's Limit text: ")" for a stocky web, else
+// " Support stiffener recommended)".
+std::string ComputeShearResistances(State& s, double NEd, double MyEd);
+
+}  // namespace vn

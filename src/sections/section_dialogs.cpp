@@ -1,0 +1,200 @@
+#include "sections/section_dialogs.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "core/events.h"
+#include "core/pipeline.h"
+#include "core/recalculate.h"
+#include "core/state.h"
+#include "sections/rolled_i.h"
+
+namespace vn {
+
+namespace {
+
+constexpr std::array<SectionDialogInfo, 10> kDialogs{{
+    {1, "p01", "mnup01", "p01i", "HEA"},
+    {2, "p02", "mnup02", "p02i", "HEB"},
+    {3, "p03", "mnup03", "p03i", "HEM"},
+    {4, "p04", "mnup04", "p04i", "IPE"},
+    {15, "p15", "mnup15", "p15i", "INP"},
+    {5, "p05", "mnup05", "p05i", nullptr},
+    {16, "p16", "mnup16", "p16i", nullptr},
+    {101, "p101", "mnuu", "p101i", "U"},
+    {102, "p102", "mnuj", "p102i", "J"},
+    {103, "p103", "mnuc", "p103i", "U"},  // "U" for the channels too
+}};
+
+std::string Key(const SectionDialogInfo& d, const char* control) {
+  return std::string(d.form) + "." + control;
+}
+
+// Draws the figure outside a recalculation; a figure that cannot be drawn stays as it was.
+void RedrawFigure(State& s) {
+  try {
+    DrawSectionFigure(s);
+  } catch (const std::exception&) {
+  }
+}
+
+bool IsOpen(const State& s, const SectionDialogInfo& d) {
+  const auto& open = s.view.openDialogs;
+  return std::find(open.begin(), open.end(), d.form) != open.end();
+}
+
+void Load(State& s, const SectionDialogInfo& d) {
+  FillSectionList(s, d);
+  if (d.name) s.project.profileName = d.name;
+  if (!IsOpen(s, d)) s.view.openDialogs.push_back(d.form);
+}
+
+void Unload(State& s, const SectionDialogInfo& d) {
+  auto& open = s.view.openDialogs;
+  open.erase(std::remove(open.begin(), open.end(), d.form), open.end());
+}
+
+void Activate(State& s, const SectionDialogInfo& d) {
+  s.view.text[Key(d, "pic1")] = FigureCaption(s);
+  s.project.ProfileType = static_cast<Integer>(d.type);
+  if (d.name) s.project.profileName = d.name;
+  Recalculate(s);
+  ShowSectionValues(s);
+  RedrawFigure(s);
+}
+
+// A control of a dialog is reached only with the dialog open and in front: opening it runs Load,
+// bringing it to the front from another form runs Activate.
+void EnsureActive(State& s, const SectionDialogInfo& d) {
+  if (!IsOpen(s, d)) {
+    Load(s, d);
+    Activate(s, d);
+  } else if (s.project.ProfileType != d.type) {
+    Activate(s, d);
+  }
+}
+
+void OpenFromMenu(State& s, const SectionDialogInfo& d) {
+  s.project.ProfileType = static_cast<Integer>(d.type);
+  if (d.name) s.project.profileName = d.name;
+  if (!IsOpen(s, d)) Load(s, d);
+  Activate(s, d);
+}
+
+int ListRows(const State& s, const SectionDialogInfo& d) {
+  const CatalogueId id = CatalogueOfType(s, d.type);
+  if (id == catCount) return 0;
+  return CatalogueInfo(id).rows;
+}
+
+EventResult OnListClick(State& s, const SectionDialogInfo& d, std::string_view text) {
+  EventResult r;
+  const int rows = ListRows(s, d);
+  const int index = ChoiceIndex(text);
+  if (index < 0 || index >= rows) {
+    r.refused = true;
+    r.message = rows > 0 ? "No item " + std::string(text) + " in the list of " + d.form +
+                               " (items 0 to " + std::to_string(rows - 1) + ")"
+                         : std::string("The list of ") + d.form + " is empty";
+    return r;
+  }
+  EnsureActive(s, d);
+  const CatalogueId id = CatalogueOfType(s, d.type);
+  s.project.SelectedRow[static_cast<size_t>(id)] = static_cast<Integer>(index);
+  s.view.value[Key(d, "cbo")] = index;
+  Recalculate(s);
+  ShowSectionValues(s);
+  return r;
+}
+
+// The options of the dialogs with several tables: UB, UC, UBP in p101; PFC, CH in p103. Each table
+// keeps its own selected row.
+void OnSubFamily(State& s, const SectionDialogInfo& d, int option, int count) {
+  EnsureActive(s, d);
+  if (d.type == 101)
+    s.project.subFamily101 = static_cast<Integer>(option);
+  else
+    s.project.subFamily103 = static_cast<Integer>(option);
+  for (int k = 1; k <= count; ++k)
+    s.view.value[Key(d, ("prof" + std::to_string(k)).c_str())] = k == option ? 1 : 0;
+  FillSectionList(s, d);
+  Recalculate(s);
+  ShowSectionValues(s);
+}
+
+}  // namespace
+
+const SectionDialogInfo* SectionDialogOfType(int type) {
+  for (const SectionDialogInfo& d : kDialogs)
+    if (d.type == type) return &d;
+  return nullptr;
+}
+
+std::string FigureCaption(const State& s) {
+  return s.project.figureNotToScale != 0 ? "Figure not to scale" : "Figure to scale";
+}
+
+void FillSectionList(State& s, const SectionDialogInfo& d) {
+  std::vector<std::string>& items = s.view.items[Key(d, "cbo")];
+  items.clear();
+  const CatalogueId id = CatalogueOfType(s, d.type);
+  if (id == catCount) return;
+  try {
+    items = CatalogueList(s.catalogues, id);
+  } catch (const CalcFault&) {
+    items.clear();  // a table never read: the list stays empty
+  }
+  s.view.value[Key(d, "cbo")] = s.project.SelectedRow[static_cast<size_t>(id)];
+  if (d.type == 101) {
+    for (int k = 1; k <= 3; ++k)
+      s.view.value[Key(d, ("prof" + std::to_string(k)).c_str())] = s.project.subFamily101 == k;
+  } else if (d.type == 103) {
+    s.view.value[Key(d, "prof1")] = s.project.subFamily103 == 1;
+    s.view.value[Key(d, "prof2")] = s.project.subFamily103 != 1;
+  }
+}
+
+void RegisterSectionControls(ControlTable& t) {
+  for (const SectionDialogInfo& dialog : kDialogs) {
+    const SectionDialogInfo* d = &dialog;
+    auto open = [d](State& s, int, std::string_view) {
+      OpenFromMenu(s, *d);
+      return EventResult{};
+    };
+    AddControl(t, "", d->menu, open);
+    AddControl(t, "", d->button, open);
+
+    AddControl(t, d->form, "Activate", [d](State& s, int, std::string_view) {
+      if (!IsOpen(s, *d)) Load(s, *d);
+      Activate(s, *d);
+      return EventResult{};
+    });
+    AddControl(t, d->form, "cbo", [d](State& s, int, std::string_view text) {
+      return OnListClick(s, *d, text);
+    });
+    AddControl(t, d->form, "pic1", [d](State& s, int, std::string_view) {
+      EnsureActive(s, *d);
+      s.project.figureNotToScale = s.project.figureNotToScale != 0 ? 0 : 1;
+      s.view.text[Key(*d, "pic1")] = FigureCaption(s);
+      RedrawFigure(s);
+      return EventResult{};
+    });
+    AddControl(t, d->form, "Command1", [d](State& s, int, std::string_view) {
+      Unload(s, *d);  // the inputs stay in the project
+      return EventResult{};
+    });
+
+    if (d->type == 101 || d->type == 103) {
+      const int count = d->type == 101 ? 3 : 2;
+      for (int k = 1; k <= count; ++k) {
+        AddControl(t, d->form, "prof" + std::to_string(k), [d, k, count](State& s, int, std::string_view) {
+          OnSubFamily(s, *d, k, count);
+          return EventResult{};
+        });
+      }
+    }
+  }
+}
+
+}  // namespace vn

@@ -1,0 +1,38 @@
+// The section dialogs of the catalogue families: one protocol driven by a table of family data.
+//   menu entry / picture button: ProfileType and profileName, then the dialog opens (Load, Activate)
+//   Load: the list of the family's table, the short name
+//   Activate: the figure's caption, ProfileType, Recalculate, ShowSectionValues, the figure
+//   cbo: the family's selected row = the list index, Recalculate, ShowSectionValues
+//   prof1..prof3 (p101, p103): the sub-family and its list
+//   pic1: figure to scale or not; Command1: close
+#pragma once
+
+#include <string>
+
+#include "sections/catalogue.h"
+
+namespace vn {
+
+struct State;
+class ControlTable;
+
+struct SectionDialogInfo {
+  int type;             // ProfileType
+  const char* form;     // "p01"
+  const char* menu;     // "mnup01"
+  const char* button;   // "p01i", the picture button of the main form
+  const char* name;     // profileName the family sets; nullptr leaves it unchanged
+};
+
+// The dialog of a catalogue family of this unit, or nullptr.
+const SectionDialogInfo* SectionDialogOfType(int type);
+
+// Fills the dialog's list with the rows of the family's table and selects the family's row.
+void FillSectionList(State& s, const SectionDialogInfo& d);
+
+// Caption of the figure box: "Figure not to scale" or "Figure to scale".
+std::string FigureCaption(const State& s);
+
+void RegisterSectionControls(ControlTable& t);
+
+}  // namespace vn
