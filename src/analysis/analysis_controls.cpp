@@ -138,13 +138,11 @@ void ShowModal(State& s) {
 void ShowDialog(State& s, const std::string& form) {
   auto& open = s.view.openDialogs;
   if (std::find(open.begin(), open.end(), form) == open.end()) open.push_back(form);
-  s.view.visible[form] = true;
 }
 
 void HideDialog(State& s, const std::string& form) {
   auto& open = s.view.openDialogs;
   open.erase(std::remove(open.begin(), open.end(), form), open.end());
-  s.view.visible[form] = false;
 }
 
 void RefreshCheckPointTable(State& s) {

@@ -3,8 +3,10 @@
 // only copies them into its widgets. The forms hold no engineering state of their own.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "graphics/canvas.h"
@@ -33,5 +35,10 @@ struct View {
   };
   std::vector<Line> sectionValues;
 };
+
+// Whether a dialog is shown: the one list of open dialogs decides, for every front end.
+inline bool DialogOpen(const View& v, std::string_view form) {
+  return std::find(v.openDialogs.begin(), v.openDialogs.end(), form) != v.openDialogs.end();
+}
 
 }  // namespace vn

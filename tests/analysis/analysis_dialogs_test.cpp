@@ -106,7 +106,7 @@ TEST(EndForceDialog, TheMenuEntryEntersEndForceModeOnASimpleSupport) {
   EXPECT_EQ(s.project.AnalysisMode, 0);
   EXPECT_EQ(s.project.SupportType, 0);
   EXPECT_FALSE(s.view.visible["frLc"]);
-  EXPECT_TRUE(s.view.visible["endforce"]);
+  EXPECT_TRUE(DialogOpen(s.view, "endforce"));
   EXPECT_EQ(s.view.text["endforce.imy1"], "100.0");
   EXPECT_EQ(s.view.text["endforce.ivz1"], "50.0");
 }
@@ -183,7 +183,7 @@ TEST(ModalDialog, TheResultButtonWorksOnlyWhileModalAnalysisIsOn) {
   s.project.chModal = 1;
   r = Fire(s, "cmd_modresult");
   EXPECT_TRUE(r.recalculated);
-  EXPECT_TRUE(s.view.visible["Modal_ns"]);
+  EXPECT_TRUE(DialogOpen(s.view, "Modal_ns"));
 }
 
 }  // namespace
