@@ -2,6 +2,7 @@
 // and prints the state, the summary or the project.
 //
 //   varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [--json | --summary | --detail] [--save PATH]
+//               [--svg DIR]
 //
 // Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
 // calculation error.
@@ -9,6 +10,8 @@
 
 #include <climits>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <cstring>
 #include <iostream>
 #include <string>
@@ -19,6 +22,7 @@
 #include "core/json.h"
 #include "core/startup.h"
 #include "core/state.h"
+#include "graphics/canvas.h"
 #include "results/summary.h"
 
 namespace {
@@ -31,6 +35,7 @@ const char* kUsage =
     "  --summary            print the summary of controls\n"
     "  --detail             print the table of detailed results\n"
     "  --save PATH          save the project to PATH\n"
+    "  --svg DIR            write every picture drawn (charts, figures) as DIR/<name>.svg\n"
     "  --decimal-comma      parse and print numbers as a decimal-comma locale does\n"
     "  --decimal-point      parse and print numbers as a decimal-point locale does\n"
     "  --data DIR           read the data files from DIR instead of the program's folder\n"
@@ -45,10 +50,38 @@ std::string ProgramFolder(const char* argv0) {
   return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
 }
 
+// The size in pixels a picture is written at: about the size of its box on the forms.
+std::pair<double, double> PictureSize(const std::string& name) {
+  if (name.rfind("Pic", 0) == 0) return {420, 220};
+  if (name == "pic11") return {300, 54};
+  if (name == "pic_vipp") return {60, 24};
+  if (name == "pic_loadlevel") return {40, 40};
+  return {220, 220};  // the section figures and Picture4 are square
+}
+
+// Writes each picture as DIR/<name>.svg; false with a message when the folder can't be written.
+bool WritePictures(const vn::State& s, const std::string& dir, std::string* error) {
+  std::error_code ec;
+  std::filesystem::create_directories(dir, ec);
+  for (const auto& [name, drawing] : s.view.pictures) {
+    const auto [w, h] = PictureSize(name);
+    vn::draw::SvgCanvas svg(w, h);
+    vn::draw::Replay(drawing, svg);
+    const std::string path = (std::filesystem::path(dir) / (name + ".svg")).string();
+    std::ofstream out(path, std::ios::binary);
+    out << svg.Svg();
+    if (!out) {
+      *error = "varnelt-cli: can't write " + path;
+      return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::string projectPath, savePath, dataDir;
+  std::string projectPath, savePath, dataDir, svgDir;
   std::vector<std::string> events;
   enum class Out { Project, Json, Summary, Detail, Controls } out = Out::Project;
   int decimal = -1;  // -1 from the locale
@@ -69,6 +102,7 @@ int main(int argc, char** argv) {
     else if (a == "--controls") out = Out::Controls;
     else if (a == "--save") savePath = next("PATH");
     else if (a == "--data") dataDir = next("DIR");
+    else if (a == "--svg") svgDir = next("DIR");
     else if (a == "--decimal-comma") decimal = 1;
     else if (a == "--decimal-point") decimal = 0;
     else if (a == "--help" || a == "-h") {
@@ -120,6 +154,14 @@ int main(int argc, char** argv) {
   if (!savePath.empty()) {
     std::string error;
     if (!vn::cli::SaveProject(s, savePath, &error)) {
+      std::cerr << error << "\n";
+      return 3;
+    }
+  }
+
+  if (!svgDir.empty()) {
+    std::string error;
+    if (!WritePictures(s, svgDir, &error)) {
       std::cerr << error << "\n";
       return 3;
     }
