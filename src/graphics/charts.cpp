@@ -185,18 +185,50 @@ void MomentSymbol(draw::Canvas& c, Point at, double r, bool positive, const Pen&
 }
 
 constexpr double kMemberY = 54;   // the member on the load charts
-constexpr double kLoadTop = 20;   // the highest load symbol
+constexpr double kLoadTop = 22;   // the tail of a point force's arrow
 constexpr double kBlock = 14;     // height of the largest distributed load
 
 void AxialArrow(draw::Canvas& c, double N, double y) {
   if (N == 0) return;
-  // Compression pushes at the end, tension pulls away from it.
+  // Compression pushes at the end, tension pulls away from it; clear of the support's symbol.
   if (N > 0) {
-    Arrow(c, {kChartRight + 11, y}, {kChartRight + 1, y}, kThin);
+    Arrow(c, {kChartRight + 13, y}, {kChartRight + 3, y}, kThin);
   } else {
-    Arrow(c, {kChartRight + 1, y}, {kChartRight + 11, y}, kThin);
+    Arrow(c, {kChartRight + 3, y}, {kChartRight + 13, y}, kThin);
   }
 }
+
+// Texts along the member in rows: a text that would run into another of its row goes one row
+// further out, so that loads close together keep readable labels.
+class LabelRows {
+ public:
+  // Row 0 at `first`, each further row `step` away (negative: upwards); at most `rows` rows.
+  LabelRows(draw::Canvas& c, double first, double step, int rows, VAlign v)
+      : c_(c), first_(first), step_(step), v_(v), used_(static_cast<size_t>(rows)) {}
+
+  // Places the text at x; returns the y of the row it went into.
+  double Put(double x, const std::string& text, HAlign h) {
+    const double w = 1.45 * static_cast<double>(text.size()) + 1;
+    const double x0 = h == HAlign::Left ? x : h == HAlign::Right ? x - w : x - w / 2;
+    const double x1 = x0 + w;
+    size_t row = 0;
+    for (; row + 1 < used_.size(); ++row) {
+      bool free = true;
+      for (const auto& [a, b] : used_[row]) free = free && (x1 <= a || x0 >= b);
+      if (free) break;
+    }
+    used_[row].push_back({x0, x1});
+    const double y = first_ + step_ * static_cast<double>(row);
+    c_.Text({x, y}, text, ChartFont(), h, v_);
+    return y;
+  }
+
+ private:
+  draw::Canvas& c_;
+  double first_, step_;
+  VAlign v_;
+  std::vector<std::vector<std::pair<double, double>>> used_;
+};
 
 }  // namespace
 
@@ -256,7 +288,11 @@ void DrawLoadChart(draw::Canvas& c, const State& s, ChartAxis axis) {
   const double top = kMemberY - 2;
   auto qHeight = [&](double v) { return qMax > 0 ? kBlock * std::fabs(v) / qMax : 0.0; };
 
-  const std::string lateral = CaseSums(s, q);
+  // Values above the loads (two rows upwards from the arrows' tails), positions under the member
+  // (three rows downwards).
+  LabelRows values(c, kLoadTop - 0.5, -7, 2, VAlign::Bottom);
+  LabelRows positions(c, kMemberY + 11, 7, 3, VAlign::Top);
+
   c.Text({1, 1}, "Lateral Load", ChartFont(true), HAlign::Left, VAlign::Top);
   if (qTotal != 0) {
     const double h = qHeight(qTotal);
@@ -268,12 +304,11 @@ void DrawLoadChart(draw::Canvas& c, const State& s, ChartAxis axis) {
       else
         Arrow(c, {x, top}, {x, top - h}, kThin, 1.8);
     }
-    c.Text({(kChartLeft + kChartRight) / 2, top - h - 0.5}, lateral, ChartFont(), HAlign::Center,
-           VAlign::Bottom);
+    // The sums by case over the block's start.
+    c.Text({kChartLeft, top - h - 0.5}, CaseSums(s, q), ChartFont(), HAlign::Left, VAlign::Bottom);
   }
 
   // Trapezoidal loads: their values at the ends, their positions under the member.
-  const double below = kMemberY + 11;
   for (int i = 1; i <= 3; ++i) {
     const TrapezoidLoad& t = l.trapezoid[i];
     if ((t.Dir == 0.0f ? 0 : 1) != dir || (t.q1 == 0 && t.q2 == 0)) continue;
@@ -281,13 +316,13 @@ void DrawLoadChart(draw::Canvas& c, const State& s, ChartAxis axis) {
     const double h1 = qHeight(t.q1), h2 = qHeight(t.q2);
     c.Polygon({{x1, top}, {x1, top - h1}, {x2, top - h2}, {x2, top}}, kThin, draw::Rgb{225, 225, 225});
     const std::string cs = kCaseText[CaseOf(t.Case)];
-    c.Text({x1, top - h1 - 0.5}, Fmt(s, t.q1, "#0.0"), ChartFont(), HAlign::Right, VAlign::Bottom);
-    c.Text({x2, top - h2 - 0.5}, Fmt(s, t.q2, "#0.0") + cs, ChartFont(), HAlign::Left, VAlign::Bottom);
-    c.Text({x1, below}, Fmt(s, t.x1, "#0.000"), ChartFont(), HAlign::Right, VAlign::Top);
-    c.Text({x2, below}, Fmt(s, t.x2, "#0.000"), ChartFont(), HAlign::Left, VAlign::Top);
+    values.Put(x1, Fmt(s, t.q1, "#0.0"), HAlign::Right);
+    values.Put(x2, Fmt(s, t.q2, "#0.0") + cs, HAlign::Left);
+    positions.Put(x1, Fmt(s, t.x1, "#0.000"), HAlign::Right);
+    positions.Put(x2, Fmt(s, t.x2, "#0.000"), HAlign::Left);
   }
 
-  // Point forces and moments.
+  // Point forces and moments; a moment's value is led down to its symbol.
   for (int i = 1; i <= 8; ++i) {
     const PointLoad& pl = l.point[i];
     if (pl.Value == 0 || pl.Dir != dir) continue;
@@ -295,15 +330,16 @@ void DrawLoadChart(draw::Canvas& c, const State& s, ChartAxis axis) {
     const std::string value = Fmt(s, pl.Value, "#0.0") + kCaseText[CaseOf(pl.Case)];
     if (pl.Kind == 1) {
       MomentSymbol(c, {x, kMemberY}, 5, pl.Value > 0, kThin);
-      c.Text({x, kMemberY - 6}, value, ChartFont(), HAlign::Center, VAlign::Bottom);
+      const double y = values.Put(x, value, HAlign::Center);
+      c.Line({x, y}, {x, kMemberY - 5}, Pen{draw::Rgb{150, 150, 150}, 1, draw::LineStyle::Dot});
     } else {
       if (pl.Value > 0)
         Arrow(c, {x, kLoadTop}, {x, kMemberY - 1}, kThin);
       else
         Arrow(c, {x, kMemberY - 1}, {x, kLoadTop}, kThin);
-      c.Text({x, kLoadTop - 0.5}, value, ChartFont(), HAlign::Center, VAlign::Bottom);
+      values.Put(x, value, HAlign::Center);
     }
-    c.Text({x, below}, Fmt(s, pl.x, "#0.000"), ChartFont(), HAlign::Center, VAlign::Top);
+    positions.Put(x, Fmt(s, pl.x, "#0.000"), HAlign::Center);
   }
 
   // The axial force at the far end, and its sums by case.

@@ -65,12 +65,13 @@ void DimH(draw::Canvas& c, double y, double x0, double x1, const char* letter, b
          above ? VAlign::Bottom : VAlign::Top);
 }
 
-// Axes through (x, y) reaching `reach` units either way, "Y" at the right, "Z" at the foot.
-void Axes(draw::Canvas& c, double x, double y, double reachX, double reachY) {
-  c.Line({x - reachX, y}, {x + reachX, y}, kAxis);
-  c.Line({x, y + reachY}, {x, y - reachY}, kAxis);
-  c.Text({x + reachX, y}, "Y", AxisFont(), HAlign::Left, VAlign::Middle);
-  c.Text({x, y - reachY}, "Z", AxisFont(), HAlign::Center, VAlign::Top);
+// Axes through (x, y): Y from `left` to `right` with "Y" at its end, Z from `top` down to `bottom`
+// with "Z" under it; the ends keep clear of the dimension lines.
+void Axes(draw::Canvas& c, double x, double y, double left, double right, double top, double bottom) {
+  c.Line({left, y}, {right, y}, kAxis);
+  c.Line({x, top}, {x, bottom}, kAxis);
+  c.Text({right, y}, "Y", AxisFont(), HAlign::Left, VAlign::Middle);
+  c.Text({x, bottom}, "Z", AxisFont(), HAlign::Center, VAlign::Top);
 }
 
 // Points round a quarter circle, from angle a0 to a1 (radians).
@@ -112,7 +113,8 @@ void StockI(draw::Canvas& c, double b, double bBottom, double h, bool tapered, b
   } else {
     DimH(c, top + 4, xt0, xt1, "b");
   }
-  Axes(c, 50, 50, std::max(b, bBottom) / 2 + 8, h / 2 + 8);
+  Axes(c, 50, 50, std::min(xt0, xb0) - 2, 50 + std::max(b, bBottom) / 2 + 8, top + 2,
+       bot - (unequal ? 13 : 6));
 }
 
 // A channel with its web at the left.
@@ -130,7 +132,7 @@ void StockChannel(draw::Canvas& c, bool tapered, bool letters) {
   if (!letters) return;
   DimV(c, x0 - 5, bot, top, "h");
   DimH(c, top + 4, x0, x1, "b");
-  Axes(c, x0 + 11, 50, b / 2 + 14, h / 2 + 8);
+  Axes(c, x0 + 11, 50, x0 - 2, x1 + 8, top + 2, bot - 6);
 }
 
 // A hollow rectangle with rounded corners, w wide and h high.
@@ -149,7 +151,7 @@ void StockHollow(draw::Canvas& c, double w, double h, double t, double r, bool l
   if (!letters) return;
   DimV(c, x0 - 5, y0, y1, "h");
   DimH(c, y1 + 4, x0, x1, "b");
-  Axes(c, 50, 50, w / 2 + 8, h / 2 + 8);
+  Axes(c, 50, 50, x0 - 2, x1 + 8, y1 + 2, y0 - 6);
 }
 
 // An angle: the vertical leg h at the left, the horizontal leg b at the foot.
@@ -160,7 +162,7 @@ void StockAngle(draw::Canvas& c, double b, bool letters) {
   DimV(c, x0 - 5, y0, y0 + h, "h");
   DimH(c, y0 - 5, x0, x0 + b, "b", false);
   // The centroid lies near the heel.
-  Axes(c, x0 + b * 0.28, y0 + h * 0.3, b / 2 + 8, h / 2 + 6);
+  Axes(c, x0 + b * 0.28, y0 + h * 0.3, x0 - 2, x0 + b + 6, y0 + h + 2, y0 - 14);
 }
 
 // A welded box; `flush` puts the webs outside under the flanges' edges.
@@ -176,7 +178,8 @@ void StockBox(draw::Canvas& c, double b1, double b2, bool flush, bool letters, b
   DimV(c, 50 - std::max(b1, b2) / 2 - 5, bot, top, "h");
   DimH(c, top + 4, 50 - b1 / 2, 50 + b1 / 2, unequal ? "b1" : "b");
   if (unequal) DimH(c, bot - 4, 50 - b2 / 2, 50 + b2 / 2, "b2", false);
-  Axes(c, 50, 50, std::max(b1, b2) / 2 + 8, h / 2 + 8);
+  Axes(c, 50, 50, 50 - std::max(b1, b2) / 2 - 2, 50 + std::max(b1, b2) / 2 + 8, top + 2,
+       bot - (unequal ? 13 : 6));
 }
 
 // HSQ: a narrow top flange, two webs, a wide bottom flange standing out on both sides (symmetric)
@@ -195,7 +198,7 @@ void StockHsq(draw::Canvas& c, bool symmetric, bool inset, bool letters) {
   DimV(c, botX0 - 4, bot, top, "h");
   DimH(c, top + 4, topX0, topX1, "b1");
   DimH(c, bot - 4, botX0, botX1, "b2", false);
-  Axes(c, (web0 + web1) / 2, 50 - 6, b2 / 2 + 4, h / 2 + 12);
+  Axes(c, (web0 + web1) / 2, 50 - 6, botX0 - 1, botX1 + 4, top + 2, bot - 13);
 }
 
 void StockTee(draw::Canvas& c, bool letters) {
@@ -205,7 +208,7 @@ void StockTee(draw::Canvas& c, bool letters) {
   if (!letters) return;
   DimV(c, 50 - b / 2 - 5, bot, top, "h");
   DimH(c, top + 4, 50 - b / 2, 50 + b / 2, "b");
-  Axes(c, 50, top - h * 0.3, b / 2 + 8, h / 2 + 8);
+  Axes(c, 50, top - h * 0.3, 50 - b / 2 - 2, 50 + b / 2 + 8, top + 2, bot - 6);
 }
 
 void StockFlatBar(draw::Canvas& c, bool letters) {
@@ -213,7 +216,7 @@ void StockFlatBar(draw::Canvas& c, bool letters) {
   Box(c, 50 - t / 2, 50 - h / 2, 50 + t / 2, 50 + h / 2);
   if (!letters) return;
   DimV(c, 50 - t / 2 - 6, 50 - h / 2, 50 + h / 2, "h");
-  Axes(c, 50, 50, t / 2 + 14, h / 2 + 8);
+  Axes(c, 50, 50, 50 - t / 2 - 3, 50 + t / 2 + 14, 50 + h / 2 + 2, 50 - h / 2 - 6);
 }
 
 void StockTube(draw::Canvas& c, bool letters) {
@@ -221,7 +224,7 @@ void StockTube(draw::Canvas& c, bool letters) {
   c.Circle({50, 50}, 28, kEdge, draw::kWhite);
   if (!letters) return;
   DimH(c, 90, 16, 84, "d");
-  Axes(c, 50, 50, 42, 42);
+  Axes(c, 50, 50, 8, 92, 86, 8);
 }
 
 // A plate with its stiffener underneath: 51 flat bar, 52 rolled angle, 53 welded angle, 54 bulb
@@ -262,7 +265,7 @@ void StockPlate(draw::Canvas& c, int type, bool letters) {
     const double x0 = type == 52 || type == 53 ? wx : 50 - flange / 2;
     DimH(c, foot - 4, x0, x0 + flange, "b", false);
   }
-  Axes(c, 50, 64, B / 2 + 6, 40);
+  Axes(c, 50, 64, 50 - B / 2 - 2, 50 + B / 2 + 6, top + 2, foot - (flange > 0 ? 13 : 6));
 }
 
 double WiderFirst(const State& s) { return s.project.p22.istb1 >= s.project.p22.istb2; }
@@ -424,7 +427,6 @@ void DrawStockSection(draw::Canvas& c, const State& s, int type, bool letters) {
       f.family = "Arial";
       f.size = 8;
       c.Text({50, 50}, "General profile", f, HAlign::Center, VAlign::Middle);
-      if (letters) Axes(c, 50, 50, 40, 40);
     }
   }
 }
