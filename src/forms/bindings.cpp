@@ -4,9 +4,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSignalBlocker>
 #include <QTimer>
 
@@ -178,6 +180,12 @@ void Bindings::label(QLabel* label, const std::string& name) { add(Kind::Label, 
 
 void Bindings::frame(QWidget* widget, const std::string& name) { add(Kind::Frame, widget, name); }
 
+void Bindings::lines(QListWidget* list, const std::string& name) {
+  list->setSelectionMode(QAbstractItemView::NoSelection);
+  list->setFocusPolicy(Qt::NoFocus);
+  add(Kind::Lines, list, name);
+}
+
 void Bindings::picture(PictureBox* box) {
   add(Kind::Picture, box, box->name());
   connect(box, &PictureBox::clicked, this, [this, box] {
@@ -206,7 +214,8 @@ void Bindings::refresh() {
     QWidget* w = e.widget;
     if (!w) continue;
     if (auto it = v.visible.find(e.name); it != v.visible.end()) w->setVisible(it->second);
-    const bool input = e.kind != Kind::Label && e.kind != Kind::Frame && e.kind != Kind::Picture;
+    const bool input = e.kind != Kind::Label && e.kind != Kind::Frame && e.kind != Kind::Picture &&
+                       e.kind != Kind::Lines;
     bool enabled = input ? Session::knows(e.name) : true;
     auto en = v.enabled.find(e.name);
     if (en != v.enabled.end()) enabled = enabled && en->second;
@@ -263,8 +272,28 @@ void Bindings::refresh() {
         if (text != v.text.end()) static_cast<QLabel*>(w)->setText(QString::fromStdString(text->second));
         break;
       case Kind::Button:
-      case Kind::Frame:
+        if (text != v.text.end()) {
+          auto* button = static_cast<QAbstractButton*>(w);
+          const QString t = QString::fromStdString(text->second);
+          if (button->text() != t) button->setText(t);
+        }
         break;
+      case Kind::Frame:
+        if (auto* group = qobject_cast<QGroupBox*>(w); group && text != v.text.end())
+          group->setTitle(QString::fromStdString(text->second));
+        break;
+      case Kind::Lines: {
+        auto* list = static_cast<QListWidget*>(w);
+        QStringList now, want;
+        for (int i = 0; i < list->count(); ++i) now << list->item(i)->text();
+        if (auto items = v.items.find(e.name); items != v.items.end())
+          for (const std::string& line : items->second) want << QString::fromStdString(line);
+        if (now != want) {
+          list->clear();
+          list->addItems(want);
+        }
+        break;
+      }
       case Kind::Picture:
         w->update();
         break;

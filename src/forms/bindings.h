@@ -16,6 +16,7 @@ class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QListWidget;
 class QWidget;
 
 namespace vn::forms {
@@ -73,9 +74,12 @@ class Bindings : public QObject {
   // An option button of a group: set while view.value[group] == value.
   void option(QAbstractButton* button, const std::string& name, const std::string& group,
               int value);
+  // A button; a caption in view.text replaces its own ("G", "Q1", "Q2" of a case button).
   void button(QAbstractButton* button, const std::string& name);
   void label(QLabel* label, const std::string& name);        // text from view.text
-  void frame(QWidget* widget, const std::string& name);      // visibility and enabled only
+  // Visibility and enabled; a frame with a caption in view.text shows it as its title.
+  void frame(QWidget* widget, const std::string& name);
+  void lines(QListWidget* list, const std::string& name);    // the lines of view.items, read only
   void picture(PictureBox* box);                             // redrawn, fires its name on a click
 
   // The widget bound to a control name (the first one), or nullptr.
@@ -86,7 +90,7 @@ class Bindings : public QObject {
   void refresh();
 
  private:
-  enum class Kind { Field, Text, List, Check, Option, Button, Label, Frame, Picture };
+  enum class Kind { Field, Text, List, Check, Option, Button, Label, Frame, Picture, Lines };
   struct Entry {
     Kind kind;
     std::string name;

@@ -9,12 +9,14 @@
 #include <QTimer>
 #include <clocale>
 #include <cstdio>
+#include <memory>
 #include <string>
 
 #include "core/startup.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
 #include "forms/session.h"
+#include "forms/settings_store.h"
 
 namespace {
 
@@ -80,6 +82,8 @@ int main(int argc, char** argv) {
   vn::forms::ApplyLook(app);
 
   vn::forms::Session session;
+  // The recent files in the platform's per-user store.
+  session.state().settings = std::make_shared<vn::forms::PlatformSettingsStore>();
   session.start(QCoreApplication::applicationDirPath().toStdString(), vn::DetectDecimalComma());
   vn::forms::MainForm form(&session);
 

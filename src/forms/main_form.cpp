@@ -25,8 +25,10 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <tuple>
 
 #include "forms/bindings.h"
+#include "forms/form_dialog.h"
 #include "forms/painter_canvas.h"
 #include "forms/picture_box.h"
 #include "forms/profiles.h"
@@ -275,6 +277,7 @@ void MainForm::buildForm() {
     cases->setToolTip(QString("Buckling length, %1-axis").arg(axes[k][4]));
     b.button(cases, axes[k][1]);
     auto* curve = new QComboBox;
+    curve->setFixedWidth(58);
     b.list(curve, axes[k][2]);
     auto* curveText = new QLabel;
     b.label(curveText, axes[k][3]);
@@ -310,10 +313,23 @@ void MainForm::buildForm() {
   auto* zaa = new QLabel;
   b.label(zaa, "zaa");
   b.frame(zaa, "zaa");
+  auto* picVipp = new PictureBox(session_, "pic_vipp");
+  picVipp->setFixedSize(50, 20);
+  picVipp->setFrameShape(QFrame::NoFrame);
+  b.picture(picVipp);
+  b.frame(picVipp, "pic_vipp");
+  auto* picLevel = new PictureBox(session_, "pic_loadlevel");
+  picLevel->setFixedSize(24, 22);
+  picLevel->setFrameShape(QFrame::NoFrame);
+  picLevel->setToolTip("Load level");
+  b.picture(picLevel);
+  b.frame(picLevel, "pic_loadlevel");
   lt->addWidget(vipp);
   lt->addWidget(ltbButton);
+  lt->addWidget(picVipp);
   lt->addStretch();
   lt->addWidget(zaa);
+  lt->addWidget(picLevel);
   input->addWidget(ltb);
 
   auto* supports = Frame("End supports", "Frame2");
@@ -408,8 +424,16 @@ void MainForm::buildForm() {
     b.frame(results, result);
     loads->setMinimumHeight(60);
     results->setMinimumHeight(120);
+    results->setReadout(true);
     l->addWidget(loads, 1);
     l->addWidget(results, 2);
+    // While the direction carries nothing both charts are hidden: the frame says so.
+    auto* none = new QLabel(QStringLiteral("No loading in this direction"));
+    none->setObjectName(QString(frame) + "None");
+    none->setAlignment(Qt::AlignCenter);
+    none->setEnabled(false);
+    none->hide();
+    l->addWidget(none, 1);
     return f;
   };
   auto* fr2 = chartFrame("Loading/Moment/Shear/Deflection - Z-axis  ", "fr2", "PicLoadZ", "PicMy");
@@ -516,6 +540,16 @@ void MainForm::refresh() {
       button->setIcon(BucklingIcon(it != v.value.end() ? it->second : 2));
   }
 
+  for (const auto& [frame, load, result] :
+       {std::tuple{"fr2", "PicLoadZ", "PicMy"}, std::tuple{"fr3", "PicLoadY", "PicMz"}}) {
+    auto shown = [&v](const char* name) {
+      auto it = v.visible.find(name);
+      return it == v.visible.end() || it->second;
+    };
+    if (auto* none = findChild<QLabel*>(QString(frame) + "None"))
+      none->setVisible(!shown(load) && !shown(result));
+  }
+
   const QString summary = QString::fromStdString(SummaryText(s));
   if (summary_->toPlainText() != summary) summary_->setPlainText(summary);
   error_->setText(QString::fromStdString(v.txtError));
@@ -542,7 +576,7 @@ void MainForm::onMenu(const std::string& control) {
     return;
   }
   const QString filter = "Varnelt EC3 (*.vnt);;All files (*)";
-  const QString folder = QString::fromStdString(s.appPath);
+  const QString folder = QString::fromStdString(s.currentDir.empty() ? s.appPath : s.currentDir);
   if (control == "mnuopen") {
     const QString path = QFileDialog::getOpenFileName(this, "Open", folder, filter);
     if (path.isEmpty()) return;
@@ -566,8 +600,23 @@ QWidget* MainForm::createDialog(const std::string& name) {
     auto* d = new SectionDialog(session_, *e, this);
     return d;
   }
-  return nullptr;
+  return CreateFormDialog(session_, name, this);
 }
+
+namespace {
+
+// The control of the main form that opens a dialog, as the person opens it.
+std::string OpenerOf(const std::string& dialog) {
+  static const std::pair<const char*, const char*> openers[] = {
+      {"setup", "mnusetup"},         {"Loading", "mnuload1"},   {"endforce", "mnuendforces"},
+      {"bucklingy", "cbuttbucklingy"}, {"bucklingz", "cbuttbucklingz"}, {"chpoints", "cp"},
+      {"Modal_ns", "cmd_modresult"},   {"about", "mnuabout"}};
+  for (const auto& [name, control] : openers)
+    if (dialog == name) return control;
+  return {};
+}
+
+}  // namespace
 
 QWidget* MainForm::dialog(const std::string& name) const {
   auto it = dialogs_.find(name);
@@ -602,8 +651,11 @@ QWidget* MainForm::openDialog(const std::string& name) {
     d->raise();
     return d;
   }
-  if (const ProfileEntry* e = ProfileOfDialog(name); e && Session::knows(e->menu)) {
-    session_->fireAndTell(this, e->menu);
+  std::string opener;
+  if (const ProfileEntry* e = ProfileOfDialog(name)) opener = e->menu;
+  else opener = OpenerOf(name);
+  if (!opener.empty() && Session::knows(opener)) {
+    session_->fireAndTell(this, opener);
     if (QWidget* d = dialog(name)) return d;
   }
   // The core has no entry for it yet: the form shows it with what the State holds.

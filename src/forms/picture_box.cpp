@@ -2,10 +2,12 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 #include "forms/painter_canvas.h"
 #include "forms/session.h"
+#include "graphics/charts.h"
 
 namespace vn::forms {
 
@@ -30,15 +32,41 @@ void PictureBox::setSquare(bool square) {
   update();
 }
 
-void PictureBox::paintEvent(QPaintEvent* e) {
-  QFrame::paintEvent(e);
-  QPainter painter(this);
+void PictureBox::setReadout(bool readout) {
+  readout_ = readout;
+  setMouseTracking(readout);
+}
+
+QRectF PictureBox::drawingArea() const {
   QRectF area = contentsRect();
-  painter.setClipRect(area);
   if (square_) {
     const double side = std::min(area.width(), area.height());
     area = QRectF(area.center().x() - side / 2, area.center().y() - side / 2, side, side);
   }
+  return area;
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* e) {
+  if (readout_) {
+    const QRectF area = drawingArea();
+    if (area.width() > 0) {
+      // The charts run from 0 to 100 across the picture.
+      const double x = (e->position().x() - area.left()) / area.width() * 100;
+      if (auto tip = ChartReadout(session_->state(), name_, x)) {
+        const QString text = QString::fromStdString(*tip);
+        setToolTip(text);
+        QToolTip::showText(e->globalPosition().toPoint(), text, this);
+      }
+    }
+  }
+  QFrame::mouseMoveEvent(e);
+}
+
+void PictureBox::paintEvent(QPaintEvent* e) {
+  QFrame::paintEvent(e);
+  QPainter painter(this);
+  painter.setClipRect(contentsRect());
+  const QRectF area = drawingArea();
   if (backdrop_) backdrop_(painter, area);
   const auto& pictures = session_->state().view.pictures;
   auto it = pictures.find(name_);

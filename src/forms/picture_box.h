@@ -20,6 +20,8 @@ class PictureBox : public QFrame {
   void setBackdrop(std::function<void(class QPainter&, const QRectF&)> backdrop);
   // Draws into the largest centred square, so that a figure to scale keeps its proportions.
   void setSquare(bool square);
+  // A result chart: while the mouse moves over it the tool tip reads the forces under it.
+  void setReadout(bool readout);
 
  signals:
   void clicked();
@@ -27,12 +29,16 @@ class PictureBox : public QFrame {
  protected:
   void paintEvent(QPaintEvent* e) override;
   void mouseReleaseEvent(QMouseEvent* e) override;
+  void mouseMoveEvent(QMouseEvent* e) override;
 
  private:
   Session* session_;
   std::string name_;
   std::function<void(QPainter&, const QRectF&)> backdrop_;
   bool square_ = false;
+  bool readout_ = false;
+
+  QRectF drawingArea() const;
 };
 
 }  // namespace vn::forms

@@ -56,6 +56,9 @@ class Session : public QObject {
   // into it.
   void refreshMainForm();
 
+  // Every window shows the State anew (after a change made outside the core's events).
+  void refreshViews() { emit changed(); }
+
   // Set while a field takes the focus back after its warning: the focus change this causes is not
   // the user leaving another field.
   bool restoringFocus = false;

@@ -18,10 +18,13 @@
 #include <memory>
 
 #include "forms/bindings.h"
+#include "forms/form_dialog.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
+#include "forms/picture_box.h"
 #include "forms/section_dialog.h"
 #include "forms/session.h"
+#include "graphics/canvas.h"
 
 using namespace vn::forms;
 
@@ -408,6 +411,89 @@ class FormsTest : public QObject {
         QPixmap shot = control<QGroupBox>(frame)->grab();
         shot.scaled(shot.size() * 3).save(qEnvironmentVariable("VARNELT_SHOTS") + "/" + frame + ".png");
       }
+    }
+  }
+
+  // ---- the dialogs over the core's controls ----
+
+  // Types a value into a dialog's field and leaves it by Enter, as a person does.
+  void enter(QWidget* dialog, const char* name, const QString& text) {
+    auto* edit = dialog->findChild<QLineEdit*>(name);
+    if (!edit) qFatal("no field %s", name);
+    focus(edit);
+    type(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+  }
+
+  static QStringList texts(const vn::draw::Drawing& d) {
+    QStringList t;
+    for (const auto& c : d.commands)
+      if (c.kind == vn::draw::DrawCommand::Kind::Text) t << QString::fromStdString(c.text);
+    return t;
+  }
+
+  void loadingDialogRefusesCrossedPositionsOnClose() {
+    form->menuAction("mnuload1")->trigger();
+    QWidget* d = form->dialog("Loading");
+    QVERIFY(d);
+    QTRY_VERIFY(d->isVisible());
+    d->activateWindow();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), d->windowHandle());
+    // A trapezoid of 5 kN/m from 3 m back to 1 m.
+    enter(d, "Loading.iqt1(1)", "5");
+    enter(d, "Loading.iqt2(1)", "5");
+    enter(d, "Loading.iqtx1(1)", "3");
+    enter(d, "Loading.iqtx2(1)", "1");
+    QVERIFY(warnings.isEmpty());
+    d->close();
+    QCOMPARE(warnings, QStringList{" x1 < x2 "});
+    QVERIFY(d->isVisible());
+    QVERIFY(vn::DialogOpen(session->state().view, "Loading"));
+    QTRY_COMPARE(QApplication::focusWidget(), d->findChild<QLineEdit*>("Loading.iqtx1(1)"));
+    // Put right, the dialog closes; the trapezoid stays on the member's load chart.
+    enter(d, "Loading.iqtx2(1)", "4");
+    QPointer<QWidget> gone(d);
+    gone->close();
+    QTRY_VERIFY(gone.isNull());
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY(!vn::DialogOpen(session->state().view, "Loading"));
+    QVERIFY(texts(session->state().view.pictures["PicLoadZ"]).contains("4.000"));
+  }
+
+  void sectionFromTheMenuUpdatesTheFigureAndTheResults() {
+    auto& v = session->state().view;
+    auto deflection = [&v] {
+      for (const QString& t : texts(v.pictures["PicMy"]))
+        if (t.startsWith("Deflection: ")) return t;
+      return QString();
+    };
+    const QString before = deflection();
+    QVERIFY(!before.isEmpty());
+    form->menuAction("mnup04")->trigger();
+    auto* d = qobject_cast<SectionDialog*>(form->dialog("p04"));
+    QVERIFY(d);
+    auto* list = d->findChild<QComboBox*>("p04.cbo");
+    QVERIFY(list && list->count() > 0);
+    QVERIFY(control<QLabel>("profileName")->text().startsWith("IPE"));
+    QVERIFY(deflection() != before);  // an IPE bends more than the HEA of the same row
+    // Another row of the list: a deeper IPE deflects less.
+    const QString ipe = deflection();
+    list->setCurrentIndex(list->count() - 1);
+    emit list->activated(list->count() - 1);
+    QVERIFY(deflection() != ipe);
+    QCOMPARE(control<QLabel>("profileName")->text(), list->currentText());
+    // The figure: a click turns the stock picture into the section to scale.
+    auto* figure = d->findChild<PictureBox*>("p04.pic1");
+    QVERIFY(figure);
+    QVERIFY(texts(v.pictures["p04.pic1"]).contains("h"));
+    QTest::mouseClick(figure, Qt::LeftButton);
+    QCOMPARE(d->findChildren<QGroupBox*>().last()->title().isEmpty(), false);
+    QVERIFY(!texts(v.pictures["p04.pic1"]).contains("h"));
+    QVERIFY(texts(v.pictures["p04.pic1"]).contains("Y"));
+    if (!qEnvironmentVariableIsEmpty("VARNELT_SHOTS")) {
+      QTest::qWait(20);  // the value lines just made show once the events have run
+      d->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/p04-to-scale.png");
+      form->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/main-ipe.png");
     }
   }
 };
