@@ -174,6 +174,7 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   auto* formulas = new QListWidget;
   formulas->setObjectName("setup.lstCombination");
   formulas->setFixedHeight(64);
+  formulas->setMinimumWidth(formulas->fontMetrics().horizontalAdvance(QString(60, 'x')));
   d->bindings()->lines(formulas, d->key("lstCombination"));
   co->addWidget(formulas);
   auto* norway = Group("Reliability Class (EN 1990)", "setup.frSafetyNorway");
@@ -278,6 +279,7 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
   auto* formulas = new QListWidget;
   formulas->setObjectName("Loading.lstCombination");
   formulas->setFixedHeight(52);
+  formulas->setMinimumWidth(formulas->fontMetrics().horizontalAdvance(QString(60, 'x')));
   d->bindings()->lines(formulas, d->key("lstCombination"));
   cl->addWidget(formulas);
   top->addWidget(comb, 3);

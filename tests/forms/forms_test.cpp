@@ -460,6 +460,19 @@ class FormsTest : public QObject {
     QVERIFY(texts(session->state().view.pictures["PicLoadZ"]).contains("4.000"));
   }
 
+  void resultChartReadsTheForcesUnderTheMouse() {
+    auto* chart = form->findChild<PictureBox*>("PicMy");
+    QVERIFY(chart && chart->isVisible());
+    const QRect area = chart->contentsRect();
+    const int px = area.left() + area.width() / 2;
+    QTest::mouseMove(chart, QPoint(px, area.center().y()));
+    // The chart runs 0..100 across the picture and the member from 16 to 86, 5 m long.
+    const double x = double(px - area.left()) / area.width() * 100;
+    const QString position = QString::number((x - 16) / 70 * 5, 'f', 3);
+    QTRY_VERIFY(chart->toolTip().startsWith(" x = " + position + " m  My = "));
+    QVERIFY(chart->toolTip().contains("  Vz = "));
+  }
+
   void sectionFromTheMenuUpdatesTheFigureAndTheResults() {
     auto& v = session->state().view;
     auto deflection = [&v] {
