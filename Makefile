@@ -5,8 +5,8 @@
 BUILD     ?= build
 ASAN      ?= build-asan
 JOBS      ?= $(shell nproc)
-PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev \
-             qt6-base-dev xvfb xauth
+PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
+             libxlsxwriter-dev qt6-base-dev xvfb xauth
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 

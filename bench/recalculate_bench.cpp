@@ -1,31 +1,28 @@
-// Recalculate on the default project: the work of one accepted input.
+// Recalculate: the work of one accepted input, on the default project and on a fully loaded
+// beam in every combination mode (section, analysis, controls, summary).
 #include <benchmark/benchmark.h>
 
-#include <string>
-#include <unistd.h>
-#include <climits>
-
-#include "core/recalculate.h"
-#include "core/startup.h"
-#include "core/state.h"
+#include "bench_support.h"
 
 namespace {
 
-std::string ProgramFolder() {
-  char buf[PATH_MAX];
-  ssize_t n = readlink("/proc/self/exe", buf, sizeof buf - 1);
-  std::string path = n > 0 ? std::string(buf, static_cast<size_t>(n)) : std::string(".");
-  return path.substr(0, path.rfind('/'));
-}
-
 void BM_RecalculateDefaultProject(benchmark::State& state) {
   vn::State s;
-  vn::StartUp(s, ProgramFolder(), false);
+  vn::StartUp(s, vn::bench::ProgramFolder(), false);
   for (auto _ : state) {
     vn::Recalculate(s);
     benchmark::DoNotOptimize(s.section.A);
   }
 }
 BENCHMARK(BM_RecalculateDefaultProject);
+
+void BM_RecalculateLoadedBeam(benchmark::State& state) {
+  vn::State s = vn::bench::FullyLoadedMember(static_cast<int>(state.range(0)), 0);
+  for (auto _ : state) {
+    vn::Recalculate(s);
+    benchmark::DoNotOptimize(s.analysis.IRsection);
+  }
+}
+BENCHMARK(BM_RecalculateLoadedBeam)->DenseRange(0, 5)->ArgName("LoadCombMode");
 
 }  // namespace

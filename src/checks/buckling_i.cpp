@@ -1,9 +1,209 @@
-// Flexural, lateral torsional buckling and interaction of I sections; lands with the buckling controls.
+// The buckling control of the I family (rolled and welded I, channels, British sections, and the
+// general section): the lines about y and about z of 6.3.1 and 6.3.3, and the lateral torsional
+// line of 6.3.2.
+//
+// Which case gets what:
+//   NEd < 0, any moments        the LT line only
+//   NEd = 0, no or one moment   the LT line only
+//   NEd = 0, My and Mz          y and z by the biaxial form without axial force, and LT
+//   NEd > 0, no moments         y and z, or "No Buckling" by 6.3.1.2 (4)
+//   NEd > 0, moments            y and z with the moment terms of 6.61 and 6.62, and LT
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "checks/buckling.h"
 #include "checks/control_routines.h"
+#include "core/format.h"
 #include "core/state.h"
 
 namespace vn {
 
-void BucklingControlI(State&) {}
+namespace {
+
+// A buckling factor below this marks an axis held over its length (case 5 gives 0.001). Compared
+// as the Single the factor is, so that 0.002 itself is neither held nor free.
+constexpr Single kHeld = 0.002f;
+
+std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
+std::string F2(const State& s, double v) { return FormatNumber(v, "0.00", s.decimalComma); }
+
+Integer Colour(const State& s, double ratio) {
+  return ratio > static_cast<double>(s.analysis.IRlimit) ? Integer{4} : Integer{2};
+}
+
+std::string Limit(const State& s, const std::string& tail) {
+  return " < " + F1(s, s.analysis.IRlimit) + " (" + tail;
+}
+
+void LateralTorsionalLine(State& s, double& IRlt) {
+  Project& p = s.project;
+  Checks& k = s.checks;
+  LateralTorsionalControl(s);
+  if (k.MyLT == 0) return;
+  IRlt = std::fabs(Div(k.MyLT, k.xLT * k.MyRdLT));
+  ControlText& t = k.buckTextLT;
+  t.Formula = "IR = My,Ed/(xLT*My,Rd) = ";
+  t.Numbers = F1(s, k.MyLT) + "/(" + F2(s, k.xLT) + "*" + F1(s, k.MyRdLT) + ")" + " = ";
+  t.Ratio = F2(s, IRlt);
+  if (p.ltbRestraints == 0)
+    t.Limit = Limit(s, "Ch 6.3.2)");
+  else
+    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) + ";  (Ch 6.3.2))");
+  k.colLT = Colour(s, IRlt);
+}
+
+// The terms of My and Mz added to the flexural lines (6.61 about y, 6.62 about z).
+void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
+  const Analysis& an = s.analysis;
+  const Section& c = s.section;
+  Checks& k = s.checks;
+  ControlText& ty = k.buckTextY;
+  ControlText& tz = k.buckTextZ;
+  if (an.MyGov != 0) {
+    const double m = std::fabs(an.MyGov);
+    const std::string tail = "*" + F1(s, m) + "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
+    if (yLine) {
+      IRy += Div(k.kyy * m, k.xLT * c.MyRdBuck);
+      ty.Formula += "+kyy*My,Ed/(xLT*My,Rd) ";
+      ty.Numbers += "+" + F2(s, k.kyy) + tail;
+    }
+    if (zLine) {
+      IRz += Div(k.kzy * m, k.xLT * c.MyRdBuck);
+      tz.Formula += "+kzy*My,Ed/(xLT*My,Rd) ";
+      tz.Numbers += "+" + F2(s, k.kzy) + tail;
+    }
+  }
+  if (an.MzGov != 0) {
+    const double mz = an.MzGov;
+    const std::string tail = "*" + F1(s, mz) + "/" + F1(s, c.MzRdBuck);
+    if (yLine) {
+      IRy += Div(k.kyz * mz, c.MzRdBuck);
+      ty.Formula += "+kyz*Mz,Ed/Mz,Rd ";
+      ty.Numbers += "+" + F2(s, k.kyz) + tail;
+    }
+    if (zLine) {
+      IRz += Div(k.kzz * mz, c.MzRdBuck);
+      tz.Formula += "+kzz*Mz,Ed/Mz,Rd ";
+      tz.Numbers += "+" + F2(s, k.kzz) + tail;
+    }
+  }
+  if (yLine) {
+    ty.Ratio = F2(s, IRy);
+    ty.Limit = Limit(s, "Ch 6.3.3)");
+    k.colBuckY = Colour(s, IRy);
+  }
+  if (zLine) {
+    tz.Ratio = F2(s, IRz);
+    tz.Limit = Limit(s, "Ch 6.3.3)");
+    k.colBuckZ = Colour(s, IRz);
+  }
+}
+
+// Biaxial bending without axial force. The z line keeps the sign of MyGov: a sagging and a hogging
+// maximum give different ratios, as the program has always reported them.
+void BiaxialWithoutAxialForce(State& s, double& IRy, double& IRz) {
+  const Analysis& an = s.analysis;
+  const Section& c = s.section;
+  Checks& k = s.checks;
+  const double My = an.MyGov, Mz = an.MzGov;
+  const std::string xm = "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
+  const std::string zm = "*" + F1(s, Mz) + "/" + F1(s, c.MzRdBuck);
+
+  IRy = Div(k.kyy * std::fabs(My), k.xLT * c.MyRdBuck) + Div(k.kyz * Mz, c.MzRdBuck);
+  ControlText& ty = k.buckTextY;
+  ty.Formula = "IR = kyy*My,Ed/(xLT*My,Rd) ";
+  ty.Formula += " + kyz*Mz,Ed/Mz,Rd) ";
+  ty.Numbers = F2(s, k.kyy) + "*" + F1(s, std::fabs(My)) + xm + " + " + F2(s, k.kyz) + zm;
+  ty.Ratio = F2(s, IRy);
+  ty.Limit = Limit(s, "Ch 6.3.1)");
+  k.colBuckY = Colour(s, IRy);
+
+  IRz = Div(k.kzy * My, k.xLT * c.MyRdBuck) + Div(k.kzz * Mz, c.MzRdBuck);
+  ControlText& tz = k.buckTextZ;
+  tz.Formula = "IR = kzy*My,Ed/(xLT*My,Rd) ";
+  tz.Formula += " + kzz*Mz,Ed/Mz,Rd ";
+  tz.Numbers = F2(s, k.kzy) + "*" + F1(s, My) + xm + " + " + F2(s, k.kzz) + zm + ")";
+  tz.Ratio = F2(s, IRz);
+  tz.Limit = Limit(s, "Ch 6.3.1)");
+  k.colBuckZ = Colour(s, IRz);
+}
+
+}  // namespace
+
+void BucklingControlI(State& s) {
+  Project& p = s.project;
+  Analysis& an = s.analysis;
+  Checks& k = s.checks;
+
+  k.buckTextY = ControlText{};
+  k.buckTextZ = ControlText{};
+  k.buckTextLT = ControlText{};
+  double IRy = 0, IRz = 0, IRlt = 0;
+
+  if (p.ltbOn == 1)
+    LateralTorsionalLine(s, IRlt);
+  else
+    k.xLT = 1;
+
+  SelectBucklingCurve(s);
+  BucklingFactors(s);
+
+  const double NEd = an.NEd;
+  const bool yLine = p.bucklingFactorY > kHeld, zLine = p.bucklingFactorZ > kHeld;
+  if (NEd > 0 && p.bucklingFactorY < kHeld && p.bucklingFactorZ < kHeld) {
+    k.buckTextY.Formula = "No Buckling";
+  } else if (NEd > 0) {
+    if (yLine) {
+      IRy = std::fabs(Div(NEd, k.NbyRd));
+      ControlText& t = k.buckTextY;
+      t.Formula = "IR = NEd/Nb,y,Rd ";
+      t.Numbers = F1(s, NEd) + "/" + F1(s, k.NbyRd);
+      t.Ratio = F2(s, IRy);
+      t.Limit = Limit(s, "Ch 6.3.1)");
+      k.colBuckY = Colour(s, IRy);
+    }
+    if (zLine) {
+      IRz = std::fabs(Div(NEd, k.NbzRd));
+      ControlText& t = k.buckTextZ;
+      t.Formula = "IR = NEd/Nb,z,Rd ";
+      t.Numbers = F1(s, NEd) + "/" + F1(s, k.NbzRd);
+      t.Ratio = F2(s, IRz);
+      t.Limit = Limit(s, "Ch 6.3.1)");
+      k.colBuckZ = Colour(s, IRz);
+    }
+    const bool moments = an.MyAbs != 0 || an.MzGov != 0;
+    if (!moments) {
+      // 6.3.1.2 (4): a stocky or lightly loaded strut needs no buckling check, both axes together.
+      const bool stocky = k.lamday <= 0.2 && k.lamdaz <= 0.2;
+      const bool light = std::fabs(Div(NEd, k.Ncry)) <= 0.04 && std::fabs(Div(NEd, k.Ncrz)) <= 0.04;
+      if (stocky || light) {
+        k.buckTextY = ControlText{};
+        k.buckTextZ = ControlText{};
+        k.buckTextY.Formula =
+            "No Buckling, ref ch 6.3.1.2 (4);  lamdaby/lamdabz<=0.2 or Ned/Ncry<=0.04; "
+            "Ned/Ncry<=0.04";
+        IRy = 0;
+        IRz = 0;
+      }
+    } else {
+      InteractionFactors(s);
+      if (p.calcError != 0) return;
+      MomentTerms(s, yLine, zLine, IRy, IRz);
+    }
+  }
+
+  if (NEd == 0 && an.MyGov != 0 && an.MzGov != 0) {
+    InteractionFactors(s);
+    if (p.calcError != 0) return;
+    BiaxialWithoutAxialForce(s, IRy, IRz);
+  }
+
+  k.IRbuckY = IRy;
+  k.IRbuckZ = IRz;
+  k.IRbuckLT = IRlt;
+  an.IRbuckling = std::max(IRy, IRz);
+  if (IRlt > an.IRbuckling) an.IRbuckling = IRlt;
+}
 
 }  // namespace vn

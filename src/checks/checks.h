@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "analysis/analysis.h"
 #include "core/types.h"
@@ -50,6 +51,36 @@ struct Checks {
 
   // Curve texts left by the last control for the labels obcy, obcz of the main form.
   std::string curveTextY, curveTextZ;
+
+  // Section control of the I family: the work values of the check point at hand, left as the last
+  // point had them. Forces are magnitudes in kN and kNm; NEd keeps its sign in Analysis.
+  Single MyEd = 0, MzEd = 0, VyEd = 0, VzEd = 0;
+  Single MyRd = 0, MzRd = 0;    // moment resistances, reduced for shear where it is high
+  Single MNyRd = 0, MNzRd = 0;  // the same, reduced for the axial force
+  Single rhoY = 0, rhoZ = 0;    // shear reduction factors of 6.2.8
+  double classCur = 0;          // class used by the next moment resistance
+  double classNMy = 0, classNMz = 0;  // classes under the actual N and M pair
+  double NRd = 0;               // NcRd under compression, NtRd otherwise
+  double alfa = 0, betaN = 0;   // exponents of the biaxial forms: 2 and 5n, not below 1
+  // End of the shear line's Limit text: ")" or " Support stiffener recommended)".
+  std::string VbSuffix;
+
+  // Buckling control of the I family: working values that the stability routines hand on.
+  Number alphaY = 0, alphaZ = 0;  // imperfection factors of the curves in force; kept by families
+                                  // without a curve row
+  Number lamdaMax = 0;            // the larger of lamday and lamdaz
+  Number NbyRd = 0, NbzRd = 0;    // buckling resistances, kN
+  Number LTlength = 0;            // m, length of the torsional buckling mode
+  Number McrWork = 0;             // Nmm, critical moment of the part at hand
+  Number MyLT = 0, MyRdLT = 0;    // kNm, moment and resistance of the governing LT part
+  Number Cmz0 = 0;
+  std::array<std::string, 7> ltbPartLabel{};  // text of each part of the member
+  Boolean hasLoadY = False, hasLoadZ = False;  // anything acts in the plane of y / of z
+  // Values of the single symmetric I (22) and the plate families (51 to 56) that the LT control
+  // reads; their section stages fill them. mm, and kNm for the resistances of the flange in
+  // compression under a positive and a negative moment.
+  Number zs = 0, zjTop = 0, zjBot = 0, psifTop = 0, psifBot = 0, ezb = 0, hpl = 0, bpl = 0;
+  double MyRdBuckPos = 0, MyRdBuckNeg = 0;
 };
 
 }  // namespace vn

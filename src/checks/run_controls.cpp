@@ -1,9 +1,69 @@
-// The control dispatcher; the controls land by family.
+// The control dispatcher: clears the governing ratios, picks the section control and the buckling
+// control of the family, and runs the buckling control only where its condition holds.
+#include "checks/control_framework.h"
+#include "checks/control_routines.h"
 #include "core/pipeline.h"
 #include "core/state.h"
 
 namespace vn {
 
-void RunControls(State&) {}
+const std::vector<ControlFamilyRow>& ControlFamilies() {
+  static const std::vector<ControlFamilyRow> rows = {
+      // Rolled I, channels, British sections: the I family's controls, buckling always.
+      {1, 5, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
+      {15, 16, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
+      {101, 103, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
+      // The welded I (21) and the other families join with their section routines.
+  };
+  return rows;
+}
+
+void ClearText(ControlText& t) { t = ControlText{}; }
+
+namespace {
+
+void ClearBucklingTexts(Checks& k) {
+  ClearText(k.buckTextY);
+  ClearText(k.buckTextZ);
+  ClearText(k.buckTextLT);
+}
+
+}  // namespace
+
+void RunControls(State& s) {
+  Analysis& an = s.analysis;
+  Checks& k = s.checks;
+
+  // 1.
+  an.IRsection = 0;
+  an.IRbuckling = 0;
+  k.C1 = 0;
+  k.C2 = 0;
+  k.C3 = 0;
+
+  // 2.
+  const int type = s.project.ProfileType;
+  for (const ControlFamilyRow& row : ControlFamilies()) {
+    if (type < row.firstType || type > row.lastType) continue;
+    if (row.before == BeforeControl::AxialZero) an.NEd = 0;
+    row.sectionControl(s);
+    bool run = row.bucklingControl != nullptr;
+    if (row.when == BucklingWhen::Never) run = false;
+    if (row.when == BucklingWhen::Compression && !(an.NEd > 0)) run = false;
+    // 3. A buckling control that does not run leaves no line and IRbuckling at 0.
+    if (run)
+      row.bucklingControl(s);
+    else
+      ClearBucklingTexts(k);
+    return;
+  }
+
+  // A family without controls of its own: no verdict of an earlier section may stand for it.
+  for (size_t g = 1; g <= 6; ++g) {
+    ClearText(k.secText[g]);
+    k.IRsec[g] = 0;
+  }
+  ClearBucklingTexts(k);
+}
 
 }  // namespace vn

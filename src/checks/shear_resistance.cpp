@@ -1,3 +1,6 @@
+// Shear resistance about z with the contributions of the web and of the flanges (EN 1993-1-5,
+// 5.2 to 5.4), and about y of the flanges. A web stocky to 72 epsilon / eta keeps VzRd of the
+// section stage; a slender one takes chi_w of Table 5.1 by its stiffeners and end post.
 #include "checks/shear_resistance.h"
 
 #include <cmath>
@@ -66,10 +69,13 @@ std::string ComputeShearResistances(State& s, double NEd, double MyEd) {
     if (c.VbzRd > Vmax) c.VbzRd = ToSingle(Vmax);
   }
 
+  // Web buckling left out: the plastic resistance, on both paths; the suffix stays as it is.
   if (p.noWebBuckling != 0) c.VbzRd = c.VplRd;
 
-  // Along y: two thirds of the flanges' plastic shear resistance.
+  // Along y: two thirds of the flanges' plastic shear resistance. The 1/1.5 belongs here only;
+  // VyRd of the 50 % test is without it.
   c.VbyRd = Div(Div((1 / 1.5) * (2 * b * tf) * Div(fyk, sqrt3), g0), 1000);
+  s.checks.VbSuffix = suffix;
   return suffix;
 }
 

@@ -14,8 +14,10 @@ inline constexpr const char* kShearSuffixSlender = " Support stiffener recommend
 // Sets VbzRd and VbyRd of the section and reduces MfyRd in place for the axial force, so that with
 // an axial force it shrinks a little at every call of a run. NEd is the axial force of the member in
 // kN, compression positive; MyEd the magnitude of the moment at the check point in kNm.
-// Returns the end of the shear control's Limit text: ")" for a stocky web, else
-// " Support stiffener recommended)".
+// Returns the end of the shear control's Limit text, and leaves it in Checks::VbSuffix: ")" for a
+// stocky web, else " Support stiffener recommended)", also when web buckling is left out and
+// VbzRd is the plastic resistance VplRd. Called at every check point by the section controls, and
+// once by the section stage of the families that show Vb,z,Rd in their dialog.
 std::string ComputeShearResistances(State& s, double NEd, double MyEd);
 
 }  // namespace vn

@@ -2,7 +2,7 @@
 // and prints the state, the summary or the project.
 //
 //   varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [--json | --summary | --detail] [--save PATH]
-//               [--svg DIR]
+//               [--xlsx PATH] [--csv PATH] [--svg DIR]
 //
 // Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
 // calculation error.
@@ -14,6 +14,7 @@
 #include <fstream>
 #include <cstring>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,9 @@
 #include "core/json.h"
 #include "core/startup.h"
 #include "core/state.h"
+#include "export/spreadsheet_export.h"
 #include "graphics/canvas.h"
+#include "results/detail_table.h"
 #include "results/summary.h"
 
 namespace {
@@ -35,6 +38,8 @@ const char* kUsage =
     "  --summary            print the summary of controls\n"
     "  --detail             print the table of detailed results\n"
     "  --save PATH          save the project to PATH\n"
+    "  --xlsx PATH          write the table of detailed results to an .xlsx workbook\n"
+    "  --csv PATH           write the table of detailed results as comma-separated text\n"
     "  --svg DIR            write every picture drawn (charts, figures) as DIR/<name>.svg\n"
     "  --decimal-comma      parse and print numbers as a decimal-comma locale does\n"
     "  --decimal-point      parse and print numbers as a decimal-point locale does\n"
@@ -82,6 +87,7 @@ bool WritePictures(const vn::State& s, const std::string& dir, std::string* erro
 
 int main(int argc, char** argv) {
   std::string projectPath, savePath, dataDir, svgDir;
+  std::optional<std::string> xlsxPath, csvPath;  // given, even empty: written (or refused)
   std::vector<std::string> events;
   enum class Out { Project, Json, Summary, Detail, Controls } out = Out::Project;
   int decimal = -1;  // -1 from the locale
@@ -101,6 +107,8 @@ int main(int argc, char** argv) {
     else if (a == "--detail") out = Out::Detail;
     else if (a == "--controls") out = Out::Controls;
     else if (a == "--save") savePath = next("PATH");
+    else if (a == "--xlsx") xlsxPath = next("PATH");
+    else if (a == "--csv") csvPath = next("PATH");
     else if (a == "--data") dataDir = next("DIR");
     else if (a == "--svg") svgDir = next("DIR");
     else if (a == "--decimal-comma") decimal = 1;
@@ -127,6 +135,7 @@ int main(int argc, char** argv) {
   vn::State s;
   const bool comma = decimal < 0 ? vn::DetectDecimalComma() : decimal == 1;
   vn::StartUp(s, dataDir.empty() ? ProgramFolder(argv[0]) : dataDir, comma);
+  s.spreadsheet = vn::ExportDetailGrid;  // the export button of More Results
 
   if (!projectPath.empty()) {
     std::string error;
@@ -155,6 +164,20 @@ int main(int argc, char** argv) {
     std::string error;
     if (!vn::cli::SaveProject(s, savePath, &error)) {
       std::cerr << error << "\n";
+      return 3;
+    }
+  }
+
+  // The table of detailed results as the dialog shows it after the events, then written out.
+  if (xlsxPath || csvPath) {
+    vn::BuildDetailTable(s);
+    std::string error;
+    const bool written =
+        (!xlsxPath ||
+         vn::WriteDetailXlsx(s.view.detailGrid, s.view.detailGridBold, *xlsxPath, &error)) &&
+        (!csvPath || vn::WriteDetailCsv(s.view.detailGrid, *csvPath, &error));
+    if (!written) {
+      std::cerr << "varnelt-cli: " << error << "\n";
       return 3;
     }
   }

@@ -1,10 +1,12 @@
 #include "cli/project_text.h"
 
+#include <algorithm>
 #include <sstream>
 
 #include "core/file_actions.h"
 #include "core/format.h"
 #include "core/state.h"
+#include "results/detail_table.h"
 #include "results/summary.h"
 #include "sections/section_dialogs.h"
 
@@ -83,8 +85,32 @@ std::string ProjectText(const State& s) {
   return o.str();
 }
 
-std::string DetailText(const State&) {
-  return "The table of detailed results is not available yet.\n";
+std::string DetailText(const State& s) {
+  // The rows down to the last one with text, in columns as wide as their widest cell; the values
+  // to the right so that their decimal signs line up, a rule under the header. A value wider than
+  // kValueWidth (NcrTF is 1E+25 where the section has no such mode) overruns its own line only.
+  constexpr size_t kValueWidth = 12;
+  const DetailTable t = MakeDetailTable(s);
+  size_t last = 0;
+  for (size_t r = 0; r < t.rows.size(); ++r)
+    for (const std::string& cell : t.rows[r])
+      if (!cell.empty()) last = r;
+  size_t width[kDetailColumns] = {};
+  for (size_t r = 0; r <= last; ++r)
+    for (size_t c = 0; c < kDetailColumns; ++c) width[c] = std::max(width[c], t.rows[r][c].size());
+  width[1] = std::min(width[1], kValueWidth);
+
+  std::string out;
+  for (size_t r = 0; r <= last; ++r) {
+    const DetailRow& row = t.rows[r];
+    std::string line = row[0] + std::string(width[0] - row[0].size(), ' ') + "  " +
+                       std::string(width[1] - std::min(width[1], row[1].size()), ' ') + row[1] + "  " + row[2] +
+                       std::string(width[2] - row[2].size(), ' ') + "  " + row[3];
+    line.erase(line.find_last_not_of(' ') + 1);
+    out += line + "\n";
+    if (r == 0) out += std::string(width[0] + width[1] + width[2] + width[3] + 6, '-') + "\n";
+  }
+  return out;
 }
 
 bool OpenProject(State& s, const std::string& path, std::string* error) {

@@ -10,6 +10,9 @@ void RegisterAllControls(ControlTable& t) {
   RegisterSetupControls(t);
   RegisterSectionControls(t);
   RegisterAnalysisControls(t);
+  RegisterResultsControls(t);
+  RegisterControlsChecks(t);
+  RegisterBucklingControls(t);
   RegisterFileMenuControls(t);
 }
 

@@ -10,6 +10,9 @@ void RegisterMainFormControls(ControlTable& t);
 void RegisterSetupControls(ControlTable& t);
 void RegisterSectionControls(ControlTable& t);
 void RegisterAnalysisControls(ControlTable& t);
+void RegisterResultsControls(ControlTable& t);
+void RegisterControlsChecks(ControlTable& t);
+void RegisterBucklingControls(ControlTable& t);
 
 void RegisterAllControls(ControlTable& t);
 

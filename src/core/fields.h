@@ -165,6 +165,14 @@ void VisitChecks(V& v, C& c) {
   VN_F(c, aLt); VN_F(c, bLt); VN_F(c, cLt); VN_F(c, dLt); VN_F(c, eLt);
   VN_F(c, npl); VN_F(c, uy); VN_F(c, uz); VN_F(c, wy); VN_F(c, wz); VN_F(c, ey);
   VN_F(c, curveTextY); VN_F(c, curveTextZ);
+  VN_F(c, MyEd); VN_F(c, MzEd); VN_F(c, VyEd); VN_F(c, VzEd); VN_F(c, MyRd); VN_F(c, MzRd);
+  VN_F(c, MNyRd); VN_F(c, MNzRd); VN_F(c, rhoY); VN_F(c, rhoZ); VN_F(c, classCur);
+  VN_F(c, classNMy); VN_F(c, classNMz); VN_F(c, NRd); VN_F(c, alfa); VN_F(c, betaN); VN_F(c, VbSuffix);
+  VN_F(c, alphaY); VN_F(c, alphaZ); VN_F(c, lamdaMax); VN_F(c, NbyRd); VN_F(c, NbzRd);
+  VN_F(c, LTlength); VN_F(c, McrWork); VN_F(c, MyLT); VN_F(c, MyRdLT); VN_F(c, Cmz0);
+  VN_F(c, ltbPartLabel); VN_F(c, hasLoadY); VN_F(c, hasLoadZ);
+  VN_F(c, zs); VN_F(c, zjTop); VN_F(c, zjBot); VN_F(c, psifTop); VN_F(c, psifBot); VN_F(c, ezb);
+  VN_F(c, hpl); VN_F(c, bpl); VN_F(c, MyRdBuckPos); VN_F(c, MyRdBuckNeg);
 }
 
 }  // namespace vn

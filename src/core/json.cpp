@@ -244,6 +244,20 @@ std::string StateToJson(const State& s) {
       w.Close('}');
     }
     w.Close(']');
+    w.Key("summary");
+    w.Open('[');
+    for (const auto& line : s.view.summary) {
+      w.Comma();
+      w.Open('{');
+      w("left", line.left);
+      w("note", line.note);
+      w("ratio", line.ratio);
+      w("colour", line.colour);
+      w("limit", line.limit);
+      w("title", line.title);
+      w.Close('}');
+    }
+    w.Close(']');
   });
   w("txtError", s.view.txtErrorVisible ? s.view.txtError : std::string());
   w("message", s.view.lastMessage);

@@ -257,6 +257,8 @@ void RefreshMainForm(State& s) {
   v.text["ifyk"] = FormatNumber(p.fyk, "#000", dc);
   v.value["cbofyk"] = p.steelGrade;
   v.text["il"] = FormatNumber(p.L, "#0.000", dc);
+  // The web stiffener distance is held at no more than the member length.
+  if (p.a > 1000.0 * p.L) p.a = static_cast<Single>(1000.0 * p.L);
 
   // Setting the controls fires their events where the state changes.
   const bool vipp = p.ltbOn != 0;
@@ -292,6 +294,9 @@ void RefreshMainForm(State& s) {
   // The list selections above fire their Click events; one run with the record as it stands
   // gives the same results.
   Recalculate(s);
+  // The curve labels show what the last control chose.
+  v.text["obcy"] = s.checks.curveTextY;
+  v.text["obcz"] = s.checks.curveTextZ;
 }
 
 }  // namespace vn

@@ -2,6 +2,7 @@
 // recalculation and what the forms show. Every routine is a free function taking the State.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -35,6 +36,9 @@ struct State {
   std::string currentDir;    // the start folder of the file dialogs
   // The per-user settings store of the recent files; in memory unless a front end sets another.
   std::shared_ptr<SettingsStore> settings = std::make_shared<MemorySettingsStore>();
+  // The spreadsheet the More Results table is exported to, set by a front end that has one
+  // (false with the reason when the file can't be written); empty: the export fails.
+  std::function<bool(const State&, const std::string& path, std::string* error)> spreadsheet;
   bool decimalComma = false; // the user's locale writes 1,1 for 1.1
   int recalcCount = 0;       // runs of Recalculate, for tests and the command line
 };

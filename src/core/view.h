@@ -4,7 +4,9 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +14,18 @@
 #include "graphics/canvas.h"
 
 namespace vn {
+
+// One line of the summary of controls. A control line has its formula with the numbers at the
+// left, the ratio in the colour of its index (2 green, 4 red), then the limit in black; a title
+// is bold and underlined and may be followed on the same line by a note in plain type.
+struct SummaryLine {
+  std::string left;    // title, "Governing Loadcase:", or Formula + Numbers
+  std::string note;    // plain text after the left text on the same line (the load case, " At: x= ...")
+  std::string ratio;   // the IR as "0.00"; empty on a title
+  int colour = 0;      // colour index of the ratio: 2 green, 4 red, 0 none
+  std::string limit;   // " < 1.0 (0.50L; Ch 6.2.5)"
+  bool title = false;  // bold and underlined
+};
 
 struct View {
   std::string caption;           // caption of the main form
@@ -34,6 +48,16 @@ struct View {
     std::string label, value, unit;
   };
   std::vector<Line> sectionValues;
+
+  // Summary of controls: the governing load case and the section, buckling and deflection
+  // blocks, one entry a printed line. Rebuilt by every run that reaches the summary.
+  std::vector<SummaryLine> summary;
+
+  // More Results: the grid of 55 rows by 4 cells (Parameter, Value, unit, Reference), row 0 the
+  // header, empty strings for empty cells; the rows in detailGridBold are group heads, shown bold.
+  // Filled when the dialog gets the focus, read cell by cell by the export.
+  std::vector<std::array<std::string, 4>> detailGrid;
+  std::set<int> detailGridBold;
 };
 
 // Whether a dialog is shown: the one list of open dialogs decides, for every front end.

@@ -1,16 +1,182 @@
-// The summary of controls; the control blocks land with the control framework.
+// The summary of controls of the main form: the governing load case, then the section, buckling and
+// deflection blocks. It prints what the controls left and computes nothing but the layout.
 #include "results/summary.h"
 
+#include <algorithm>
+
+#include "core/format.h"
 #include "core/pipeline.h"
 #include "core/state.h"
 
 namespace vn {
 
-void ShowControls(State&) {}
+namespace {
+
+// The families with a buckling block: all but HSQ (24, 25) and the box with unequal flanges (27).
+bool HasBucklingBlock(int type) {
+  return (type >= 1 && type <= 16) || type == 21 || type == 22 || type == 23 || type == 26 ||
+         type == 28 || type == 31 || type == 41 || (type >= 51 && type <= 56) ||
+         (type >= 101 && type <= 103);
+}
+
+SummaryLine Title(std::string text, std::string note = {}) {
+  SummaryLine l;
+  l.left = std::move(text);
+  l.note = std::move(note);
+  l.title = true;
+  return l;
+}
+
+SummaryLine Control(std::string left, const ControlText& t, Integer colour,
+                    std::string limitTail = {}) {
+  SummaryLine l;
+  l.left = std::move(left);
+  l.ratio = t.Ratio;
+  l.colour = colour;
+  l.limit = t.Limit + limitTail;
+  return l;
+}
+
+// " At: x= 1.00 / 2.50 (m)": the user's check points as they were entered.
+std::string CheckPointNote(const State& s) {
+  const Project& p = s.project;
+  const int count = p.ChPointCount == 1 ? 1 : p.ChPointCount == 2 ? 2 : 3;
+  const bool relative = p.ChPointRelative != 0;
+  std::string note = " At: x= ";
+  for (int i = 1; i <= count; ++i) {
+    double x = p.ChPointX[static_cast<size_t>(i)];
+    if (relative) x = p.L != 0 ? x / static_cast<double>(p.L) : 0.0;
+    if (i > 1) note += " / ";
+    note += FormatNumber(x, "#0.00", s.decimalComma);
+  }
+  note += relative ? " (L)" : " (m)";
+  return note;
+}
+
+}  // namespace
+
+std::string GoverningLoadcaseText(const State& s) {
+  const Project& p = s.project;
+  const CombinationFactors& c = s.comb;
+  const bool sls = p.checkSLS != 0;
+  auto en1990 = [&](const std::string& uls) {
+    return "EN1990 " + uls + " " + (sls ? " / EN1990 " + c.textSLS : std::string());
+  };
+  switch (p.LoadCombMode) {
+    case 0:
+      return en1990(c.text610);
+    case 1:
+      return en1990(c.text610a);
+    case 2:
+      return en1990(c.text610b);
+    case 3:
+      return en1990(s.analysis.GoverningEquation == 1 ? c.text610a : c.text610b);
+    case 4:
+      return c.textULSUser + (sls ? " / " + c.textSLSUser : std::string());
+    case 5:
+      return c.textBasic;
+  }
+  return {};
+}
+
+void ShowControls(State& s) {
+  const Project& p = s.project;
+  const Checks& k = s.checks;
+  const Analysis& an = s.analysis;
+  std::vector<SummaryLine>& out = s.view.summary;
+  out.clear();
+
+  // Section block.
+  SummaryLine loadcase;
+  loadcase.left = "Governing Loadcase:";
+  loadcase.note = GoverningLoadcaseText(s);
+  out.push_back(loadcase);
+  out.push_back(Title("SECTION CONTROL:", p.ChPointMode > 0 ? CheckPointNote(s) : std::string()));
+  for (size_t g = 1; g <= 3; ++g) {
+    const ControlText& t = k.secText[g];
+    if (t.Formula.empty()) continue;
+    out.push_back(Control(t.Formula + t.Numbers, t, k.colSec[g]));
+  }
+
+  // Buckling block.
+  if (HasBucklingBlock(p.ProfileType)) {
+    const ControlText* texts[3] = {&k.buckTextY, &k.buckTextZ, &k.buckTextLT};
+    const Integer colours[3] = {k.colBuckY, k.colBuckZ, k.colLT};
+    if (std::any_of(std::begin(texts), std::end(texts),
+                    [](const ControlText* t) { return !t->Formula.empty(); })) {
+      out.push_back(Title("BUCKLING CONTROL:",
+                          p.ltbOn != 0 ? " (incl Lateral Torsional Buckling)" : std::string()));
+      for (int i = 0; i < 3; ++i) {
+        const ControlText& t = *texts[i];
+        if (t.Formula.empty()) continue;
+        // The flexural lines carry no " = " of their own; the LT line does.
+        std::string left = i < 2 ? t.Formula + " = " + t.Numbers + " =" : t.Formula + t.Numbers;
+        out.push_back(Control(std::move(left), t, colours[i]));
+      }
+    }
+  }
+
+  // Deflection block, a serviceability check outside IRsection and IRbuckling.
+  if (p.checkSLS != 0 && (!an.deflTextZ.Formula.empty() || !an.deflTextY.Formula.empty())) {
+    out.push_back(Title("DEFLECTION CONTROL:",
+                        " (L/" + FormatNumber(p.deflectionLimit, "0", s.decimalComma) + ")"));
+    if (!an.deflTextZ.Formula.empty())
+      out.push_back(Control(an.deflTextZ.Formula + an.deflTextZ.Numbers, an.deflTextZ, an.colDeflZ,
+                            "      "));
+    if (!an.deflTextY.Formula.empty())
+      out.push_back(
+          Control(an.deflTextY.Formula + an.deflTextY.Numbers, an.deflTextY, an.colDeflY));
+  }
+}
+
+namespace {
+
+std::string Mark(int colour) {
+  if (colour == 2) return "[OK]";
+  if (colour == 4) return "[NOT OK]";
+  return {};
+}
+
+std::string TrimRight(std::string t) {
+  while (!t.empty() && (t.back() == ' ' || t.back() == '\t')) t.pop_back();
+  return t;
+}
+
+}  // namespace
 
 std::string SummaryText(const State& s) {
   std::string out;
-  if (s.view.txtErrorVisible) out += s.view.txtError + "\n";
+  if (s.view.txtErrorVisible) out += TrimRight(s.view.txtError) + "\n";
+  const std::vector<SummaryLine>& lines = s.view.summary;
+  const size_t markWidth = std::string("[NOT OK]").size();
+  size_t i = 0;
+  while (i < lines.size()) {
+    // One block: a title or the load case line and the control lines after it. The right column
+    // starts past the widest left text of the block.
+    size_t end = i + 1;
+    while (end < lines.size() && !lines[end].title) ++end;
+    size_t width = 0;
+    for (size_t j = i; j < end; ++j)
+      if (!lines[j].title && !(lines[j].ratio.empty() && lines[j].limit.empty()))
+        width = std::max(width, lines[j].left.size());
+    for (size_t j = i; j < end; ++j) {
+      const SummaryLine& l = lines[j];
+      std::string text;
+      if (l.title) {
+        out += "\n";
+        text = l.left + l.note;
+      } else if (l.ratio.empty() && l.limit.empty()) {
+        text = l.note.empty() ? l.left : l.left + " " + l.note;
+      } else {
+        std::string mark = Mark(l.colour);
+        mark.resize(std::max(mark.size(), markWidth), ' ');
+        text =
+            l.left + std::string(width - l.left.size() + 2, ' ') + l.ratio + " " + mark + l.limit;
+      }
+      out += TrimRight(text) + "\n";
+    }
+    i = end;
+  }
   return out;
 }
 

@@ -1,3 +1,4 @@
+// The summary of controls: the verdict of a run as the Results area shows it, and as plain text.
 #pragma once
 
 #include <string>
@@ -6,7 +7,13 @@ namespace vn {
 
 struct State;
 
-// The summary of controls as plain text, one line a control, with a mark for red and green ratios.
+// The combination that governs, as the line "Governing Loadcase:" names it.
+std::string GoverningLoadcaseText(const State& s);
+
+// The summary of controls as plain text for a terminal: the lines of View::summary with the ratios
+// in a right column, each marked "[OK]" when green and "[NOT OK]" when red, a blank line before
+// each block. After a failed run the message comes first and the summary of the last good run
+// follows, as the form keeps it on screen.
 std::string SummaryText(const State& s);
 
 }  // namespace vn

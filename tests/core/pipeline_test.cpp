@@ -324,3 +324,20 @@ TEST(StateJson, NamesEveryRecordAndSetsFieldsByPath) {
 
 }  // namespace
 }  // namespace vn
+
+namespace vn {
+namespace {
+
+TEST(RefreshMainForm, HoldsTheStiffenerDistanceWithinAShorterMember) {
+  State s = NewState();
+  s.project.a = 2500;
+  s.project.L = 2.0f;
+  RefreshMainForm(s);
+  EXPECT_EQ(s.project.a, 2000.0f);
+  s.project.a = 1500;
+  RefreshMainForm(s);
+  EXPECT_EQ(s.project.a, 1500.0f);
+}
+
+}  // namespace
+}  // namespace vn

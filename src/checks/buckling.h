@@ -1,0 +1,73 @@
+// The member stability controls of EN 1993-1-1 ch 6.3: flexural buckling (6.3.1), lateral
+// torsional buckling (6.3.2) and the interaction factors of 6.3.3 by Annex A (Method 1) and
+// Annex B (Method 2). The routines read and write the shared records of the State; the small pure
+// functions below them carry the tables, so that each table can be checked on its own.
+#pragma once
+
+#include <string>
+
+#include "core/types.h"
+
+namespace vn {
+
+struct State;
+
+// ---- Flexural buckling (flexural_buckling.cpp) ----
+
+// The buckling curve of each axis and its imperfection factor: the user's choice, or by family,
+// dimensions and steel when the choice is Auto. Families without a row keep the last curve.
+void SelectBucklingCurve(State& s);
+// Euler loads, slenderness, reduction factors and buckling resistances about y and z, then the
+// torsional and torsional-flexural critical loads.
+void BucklingFactors(State& s);
+// chi of 6.3.1.2 for a slenderness and an imperfection factor; 1 up to the plateau 0.2.
+double FlexuralChi(double lamda, double alpha);
+
+// ---- Lateral torsional buckling (lateral_torsional.cpp) ----
+
+struct CFactors {
+  double C1 = 0, C2 = 0, C3 = 0;
+};
+
+// C1, C2, C3 of a loaded member without restraints, by support type and moment shape (q-load when
+// `curved`). `k` is the LT length factor, `springPct` the spring restraint in percent; M0, Mmid
+// and ML the moments at x = 0, L/2 and L, read by the cantilever only.
+CFactors LoadCaseCFactors(int supportType, bool curved, double k, int springPct, double M0,
+                          double Mmid, double ML);
+// C1 and C3 of a part of the member by its end moment ratio psi and, for the C3 of a negative psi,
+// the flange ratio psif of the single symmetric section. k is the LT length factor.
+CFactors MomentRatioTable(double psi, double psif, double k);
+// C1 by the closed formula of the ECCS rules for member stability, from the moments at the ends,
+// the quarter points and midspan (M[0..4]) and the largest moment Mmax.
+double AlternativeC1Of(double k, const double M[5], double Mmax);
+// Text of part i of n equal parts of the member: "0 - L/2", "1L/3 - 2L/3", "1L/2 -  L".
+std::string PartLabel(int i, int n, bool decimalComma);
+
+void CFactorsFromLoad(State& s);
+void CriticalMoment(State& s);
+void ChiRolled(State& s, double M);
+void ChiGeneral(State& s, double M);
+void LateralTorsionalControl(State& s);
+void CriticalMoment0(State& s);
+
+// ---- Interaction factors (interaction.cpp) ----
+
+void EquivalentMomentA(State& s);
+void EquivalentMomentAEnd(State& s);
+void FactorsMethod1(State& s);
+void EquivalentMomentB(State& s);
+void EquivalentMomentBEnd(State& s);
+void FactorsMethod2(State& s);
+// The factors of the method chosen in the settings, with their equivalent moment factors; Method 1
+// may set calcError, after which the caller stops.
+void InteractionFactors(State& s);
+// Whether anything acts in the plane of z (My, Vz) and of y (Mz, Vy), for the shape fallback of
+// Method 2.
+void LoadPlanes(State& s);
+
+// ---- The vipping dialog (ltb_dialog.cpp) ----
+
+// Fills the dialog's fields and labels from the record and the last results.
+void RefreshLtbDialog(State& s);
+
+}  // namespace vn
