@@ -2,6 +2,9 @@
 // buckling length factors, calculation points, modal results, about, and the psi table.
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QTableWidget>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -20,6 +23,7 @@
 #include "forms/painter_canvas.h"
 #include "forms/picture_box.h"
 #include "forms/session.h"
+#include "graphics/member_figure.h"
 #include "graphics/support_symbols.h"
 
 namespace vn::forms {
@@ -74,6 +78,10 @@ QLabel* Shown(FormDialog* d, const std::string& control) {
 QGroupBox* Group(const QString& caption, const char* name = nullptr) {
   auto* g = new QGroupBox(caption);
   if (name) g->setObjectName(name);
+  // A frame is at least as wide as its caption.
+  QString shown = caption;
+  shown.replace("&&", "&");
+  g->setMinimumWidth(g->fontMetrics().horizontalAdvance(shown) + 28);
   return g;
 }
 
@@ -608,6 +616,199 @@ FormDialog* PsiDialog(Session* s, QWidget* owner) {
   return d;
 }
 
+// ---- End supports and web stiffeners ----
+
+FormDialog* EndStiffenerDialog(Session* s, QWidget* owner) {
+  auto* d = new FormDialog(s, "endstiff", "End Supports/Web stiffener", owner);
+  auto* main = new QVBoxLayout(d);
+  auto* web = Group("Vertical web stiffener ", "endstiff.frwebstiff");
+  d->bindings()->frame(web, d->key("frwebstiff"));
+  auto* wl = Inside<QGridLayout>(web);
+  wl->addWidget(Option(d, "cwebstiff0", "No intermediate stiffeners"), 0, 0, 1, 4);
+  wl->addWidget(Option(d, "cwebstiff1", "Stiffeners"), 1, 0);
+  auto* spacing = new QWidget;
+  auto* sl = new QHBoxLayout(spacing);
+  sl->setContentsMargins(0, 0, 0, 0);
+  sl->addWidget(new QLabel("c/c="));
+  sl->addWidget(NumberField(d, "iweba", 56));
+  sl->addWidget(new QLabel("mm"));
+  d->bindings()->frame(spacing, d->key("iweba"));
+  wl->addWidget(spacing, 1, 1, 1, 3, Qt::AlignLeft);
+  main->addWidget(web);
+  auto* end = Group("End Support (EN 1993-1-5, ch 5.3)", "endstiff.frendsupport");
+  d->bindings()->frame(end, d->key("frendsupport"));
+  auto* el = Inside<QVBoxLayout>(end);
+  auto* nonRigid = Option(d, "oendstiff0", "Non-rigid end post");
+  auto* rigid = Option(d, "oendstiff1", "Rigid end post");
+  el->addWidget(nonRigid);
+  el->addWidget(rigid);
+  QLabel* note = Note("Minimum two webstiffeners at the support");
+  d->bindings()->label(note, d->key("note"));
+  el->addWidget(note);
+  main->addWidget(end);
+  auto* capacity = Group("Capacity  (EN 1993-1-5, ch 5.2-5.4)", "endstiff.frcapacity");
+  d->bindings()->frame(capacity, d->key("frcapacity"));
+  auto* cl = Inside<QVBoxLayout>(capacity);
+  cl->addWidget(Shown(d, "ovbrzd"));
+  main->addWidget(capacity);
+  main->addLayout(Foot({}, d->closeButton()));
+  return d;
+}
+
+// ---- Lateral torsional buckling ----
+
+QIcon LoadLevelIcon(int level) {
+  const QSize size(28, 28);
+  QPixmap pm(size * 2);
+  pm.setDevicePixelRatio(2);
+  pm.fill(Qt::transparent);
+  QPainter p(&pm);
+  p.setRenderHint(QPainter::Antialiasing);
+  PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
+  draw::Drawing drawing;
+  draw::RecordingCanvas record(drawing);
+  DrawLoadLevelPicture(record, level, false);
+  draw::Replay(drawing, canvas);
+  p.end();
+  return QIcon(pm);
+}
+
+FormDialog* LtbDialog(Session* s, QWidget* owner) {
+  auto* d = new FormDialog(s, "vipping", "Lateral Torsional Buckling parameters", owner, "Unload");
+  auto* main = new QGridLayout(d);
+  main->setHorizontalSpacing(10);
+  main->setVerticalSpacing(8);
+
+  auto* curves = Group("Lateral torsional buckling curves (ref ch 6.3.2.2/6.3.2.3)");
+  auto* cv = Inside<QVBoxLayout>(curves);
+  cv->addWidget(Option(d, "Curve2", "General Case (conservative, ch 6.3.2.2)"));
+  cv->addWidget(Option(d, "Curve3", "Rolled or welded I-sections (ch 6.3.2.3)"));
+  cv->addWidget(Note(" Valid for Double Symmetric Profiles "));
+  cv->addWidget(Note(" Deeper slender beams "));
+  main->addWidget(curves, 0, 0);
+
+  auto* level = Group("Loadlevel");
+  auto* ll = Inside<QHBoxLayout>(level);
+  const char* tips[4] = {"Top flange", "Shear centre", "Bottom flange", "Za = distance from CoG"};
+  for (int i = 1; i <= 4; ++i) {
+    auto* b = new QToolButton;
+    b->setIcon(LoadLevelIcon(i));
+    b->setIconSize(QSize(28, 28));
+    b->setToolTip(tips[i - 1]);
+    const std::string control = "loadl" + std::to_string(i);
+    d->bindings()->option(b, d->key(control), d->key(control), 1);
+    ll->addWidget(b);
+  }
+  ll->addSpacing(6);
+  ll->addWidget(new QLabel("Za ="));
+  ll->addWidget(NumberField(d, "iza", 48));
+  ll->addWidget(new QLabel("mm"));
+  ll->addStretch();
+  main->addWidget(level, 1, 0);
+
+  auto* restraints = Group("Lateral restraint points along compression flange");
+  auto* rl = Inside<QHBoxLayout>(restraints);
+  rl->addWidget(List(d, "cbo", 3));
+  rl->addStretch();
+  main->addWidget(restraints, 2, 0);
+
+  auto* length = Group("Lateral torsional buckling length");
+  auto* ln = Inside<QVBoxLayout>(length);
+  auto* ks = new QHBoxLayout;
+  const char* factors[4] = {"k = 2.0", "k = 1.0", "k = 0.7", "k = 0.5"};
+  for (int i = 1; i <= 4; ++i) ks->addWidget(Option(d, "latbuckl" + std::to_string(i), factors[i - 1]));
+  ks->addStretch();
+  ln->addLayout(ks);
+  ln->addWidget(Note("k-factor is related to member length or the  length between restraint points "));
+  main->addWidget(length, 3, 0);
+
+  auto* capacity = Group("Lateral torsional bending/buckling capacity ");
+  auto* cg = Inside<QGridLayout>(capacity);
+  cg->addWidget(Check(d, "Cfactor", "Manual input of C-factors"), 0, 0, 1, 3);
+  const char* fields[3][2] = {{"C1i =", "ic1"}, {"C2i =", "ic2"}, {"C3i =", "ic3"}};
+  for (int r = 0; r < 3; ++r) {
+    cg->addWidget(Right(fields[r][0]), r + 1, 0);
+    cg->addWidget(NumberField(d, fields[r][1], 56), r + 1, 1);
+  }
+  cg->addWidget(Check(d, "C1factor", "Alternative calculation of C1"), 4, 0, 1, 3);
+  auto* results = new QVBoxLayout;
+  for (const char* name : {"C1", "C2", "C3", "Mcr", "MdRb"}) results->addWidget(Shown(d, name));
+  cg->addLayout(results, 1, 2, 3, 1);
+  auto* part = new QHBoxLayout;
+  part->addWidget(new QLabel("Beampart:"));
+  part->addWidget(Shown(d, "Beampart"));
+  part->addStretch();
+  cg->addLayout(part, 5, 0, 1, 3);
+  auto* only = Group("Only valid for loaded member and no restraints");
+  auto* ol = Inside<QVBoxLayout>(only);
+  ol->addWidget(Note("This has only influence if you have loading on the beam and that  lateral "
+                     "restraint points = 0 (C2-factor)"));
+  cg->addWidget(only, 6, 0, 1, 3);
+  cg->setColumnStretch(2, 1);
+  main->addWidget(capacity, 0, 1, 4, 1);
+  main->addLayout(Foot({}, d->closeButton()), 4, 0, 1, 2);
+  return d;
+}
+
+// ---- More Results ----
+
+FormDialog* DetailDialog(Session* s, QWidget* owner) {
+  auto* d = new FormDialog(s, "detailedresult", "More Results", owner);
+  auto* main = new QVBoxLayout(d);
+  auto* grid = new QTableWidget(55, 4);
+  grid->setObjectName("MSFlexGrid1");
+  grid->horizontalHeader()->hide();
+  grid->verticalHeader()->hide();
+  grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  grid->setSelectionMode(QAbstractItemView::NoSelection);
+  grid->setFocusPolicy(Qt::NoFocus);
+  grid->setMinimumSize(560, 420);
+  grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 4);
+  main->addWidget(grid);
+  auto fill = [d, grid] {
+    const View& v = d->session()->state().view;
+    const int width = grid->viewport()->width();
+    grid->setColumnWidth(0, static_cast<int>(width * 0.35));
+    grid->setColumnWidth(1, static_cast<int>(width * 0.26));
+    grid->setColumnWidth(2, static_cast<int>(width * 0.1));
+    grid->horizontalHeader()->setStretchLastSection(true);
+    for (int r = 0; r < 55; ++r) {
+      for (int c = 0; c < 4; ++c) {
+        const std::string text =
+            r < static_cast<int>(v.detailGrid.size()) ? v.detailGrid[static_cast<size_t>(r)][static_cast<size_t>(c)]
+                                                      : std::string();
+        QTableWidgetItem* item = grid->item(r, c);
+        if (!item) {
+          item = new QTableWidgetItem;
+          grid->setItem(r, c, item);
+        }
+        item->setText(QString::fromStdString(text));
+        const bool head = r == 0 || v.detailGridBold.count(r) > 0;
+        QFont f = grid->font();
+        f.setBold(head);
+        item->setFont(f);
+        item->setBackground(head ? grid->palette().button() : grid->palette().base());
+        if (c == 1) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      }
+    }
+  };
+  d->setExtraRefresh(fill);
+  auto* exportButton = new QPushButton("Export to spreadsheet...");
+  exportButton->setObjectName("cmdDetailedResult");
+  exportButton->setAutoDefault(false);
+  QObject::connect(exportButton, &QPushButton::clicked, d, [d] {
+    const QString path = QFileDialog::getSaveFileName(
+        d, "Export", QString::fromStdString(d->session()->state().currentDir),
+        "Excel workbook (*.xlsx);;Comma-separated values (*.csv)");
+    if (path.isEmpty()) return;
+    d->session()->fireAndTell(d, d->key("cmdDetailedResult"), path.toStdString());
+  });
+  exportButton->setEnabled(Session::knows(d->key("cmdDetailedResult")));
+  main->addLayout(Foot({exportButton}, d->closeButton()));
+  fill();
+  return d;
+}
+
 }  // namespace
 
 FormDialog* CreateFormDialog(Session* session, const std::string& name, QWidget* owner) {
@@ -620,6 +821,9 @@ FormDialog* CreateFormDialog(Session* session, const std::string& name, QWidget*
   if (name == "Modal_ns") return ModalDialog(session, owner);
   if (name == "about") return AboutDialog(session, owner);
   if (name == "InfoPsi") return PsiDialog(session, owner);
+  if (name == "endstiff") return EndStiffenerDialog(session, owner);
+  if (name == "vipping") return LtbDialog(session, owner);
+  if (name == "detailedresult") return DetailDialog(session, owner);
   return nullptr;
 }
 

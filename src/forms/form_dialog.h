@@ -50,7 +50,8 @@ class FormDialog : public QDialog {
 };
 
 // The dialog of that name over the core's controls, or nullptr when the program has none:
-// setup, Loading, endforce, bucklingy, bucklingz, chpoints, Modal_ns, about, InfoPsi.
+// setup, Loading, endforce, bucklingy, bucklingz, chpoints, Modal_ns, about, InfoPsi, endstiff,
+// vipping, detailedresult.
 FormDialog* CreateFormDialog(Session* session, const std::string& name, QWidget* owner);
 
 }  // namespace vn::forms

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "core/startup.h"
+#include "export/spreadsheet_export.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
 #include "forms/session.h"
@@ -84,6 +85,8 @@ int main(int argc, char** argv) {
   vn::forms::Session session;
   // The recent files in the platform's per-user store.
   session.state().settings = std::make_shared<vn::forms::PlatformSettingsStore>();
+  // The export of More Results: an .xlsx workbook, or CSV by the name.
+  session.state().spreadsheet = vn::ExportDetailGrid;
   session.start(QCoreApplication::applicationDirPath().toStdString(), vn::DetectDecimalComma());
   vn::forms::MainForm form(&session);
 

@@ -18,7 +18,7 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPlainTextEdit>
+#include <QTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QToolButton>
@@ -51,7 +51,7 @@ QGroupBox* Frame(const QString& caption, const char* name, QWidget* parent = nul
 template <class L>
 L* Inside(QWidget* frame) {
   auto* l = new L(frame);
-  l->setContentsMargins(6, 4, 6, 4);
+  l->setContentsMargins(6, 2, 6, 2);
   l->setSpacing(3);
   return l;
 }
@@ -93,6 +93,38 @@ QIcon BucklingIcon(int picture) {
     icons[picture] = QIcon(pm);
   }
   return icons[picture];
+}
+
+// The colours of the ratios: index 2 green, 4 red, as the program's palette has them.
+QString RatioColour(int index) {
+  if (index == 2) return QStringLiteral("#008000");
+  if (index == 4) return QStringLiteral("#c00000");
+  return QStringLiteral("#000000");
+}
+
+// The summary of controls: titles bold and underlined with their note in plain type, each control
+// line with its formula and numbers, the ratio in its colour and the limit, in three columns.
+QString SummaryHtml(const View& v) {
+  auto esc = [](const std::string& t) { return QString::fromStdString(t).toHtmlEscaped(); };
+  // The formulas wrap where the results area is too narrow; ratio and limit stay whole.
+  QString html = QStringLiteral("<table width='100%' cellspacing=0 cellpadding=1>");
+  bool first = true;
+  for (const SummaryLine& l : v.summary) {
+    if (l.title) {
+      html += QStringLiteral("<tr><td colspan=3 style='padding-top:%1px'><b><u>%2</u></b>%3</td></tr>")
+                  .arg(first ? 0 : 8)
+                  .arg(esc(l.left), esc(l.note));
+    } else if (l.ratio.empty()) {
+      html += QStringLiteral("<tr><td colspan=3>%1 %2</td></tr>").arg(esc(l.left), esc(l.note));
+    } else {
+      html += QStringLiteral(
+                  "<tr><td>%1</td><td align=right style='white-space:pre'><b><font color='%2'>"
+                  "&nbsp;%3</font></b></td><td style='white-space:pre'>%4%5</td></tr>")
+                  .arg(esc(l.left), RatioColour(l.colour), esc(l.ratio), esc(l.limit), esc(l.note));
+    }
+    first = false;
+  }
+  return html + QStringLiteral("</table>");
 }
 
 const char* const kSupportTips[6] = {
@@ -365,9 +397,34 @@ void MainForm::buildForm() {
   auto* pic11 = new PictureBox(session_, "pic11");
   pic11->setMinimumHeight(46);
   b.picture(pic11);
-  sp->addWidget(springBox, 0, 0);
+  // The web stiffeners and the shear capacities of the families that have them.
+  auto* webRow = new QHBoxLayout;
+  webRow->setSpacing(4);
+  for (const char* name : {"owebstiff", "owebcc"}) {
+    auto* l = new QLabel;
+    b.label(l, name);
+    b.frame(l, name);
+    webRow->addWidget(l);
+  }
+  webRow->addStretch();
+  auto* capacities = new QVBoxLayout;
+  capacities->setSpacing(0);
+  for (const char* name : {"ovplzrd", "ovbzrd"}) {
+    auto* l = new QLabel;
+    QFont f = l->font();
+    f.setPointSizeF(f.pointSizeF() * 0.92);
+    l->setFont(f);
+    b.label(l, name);
+    b.frame(l, name);
+    capacities->addWidget(l);
+  }
+  auto* top = new QHBoxLayout;
+  top->addWidget(springBox);
+  top->addLayout(webRow, 1);
+  sp->addLayout(top, 0, 0);
   sp->addWidget(stiffeners, 0, 1, Qt::AlignRight);
   sp->addWidget(pic11, 1, 0, 1, 2);
+  sp->addLayout(capacities, 2, 0, 1, 2);
   input->addWidget(support);
   input->addStretch();
 
@@ -451,12 +508,12 @@ void MainForm::buildForm() {
   profile->setObjectName("profileName");
   profile->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   profile->setWordWrap(true);
-  summary_ = new QPlainTextEdit;
+  summary_ = new QTextEdit;
   summary_->setObjectName("summary");
   summary_->setReadOnly(true);
   summary_->setFrameShape(QFrame::Panel);
   summary_->setFrameShadow(QFrame::Sunken);
-  summary_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  summary_->setLineWrapMode(QTextEdit::WidgetWidth);
   summary_->setFocusPolicy(Qt::NoFocus);
   error_ = new QLabel;
   error_->setObjectName("txtError");
@@ -550,8 +607,11 @@ void MainForm::refresh() {
       none->setVisible(!shown(load) && !shown(result));
   }
 
-  const QString summary = QString::fromStdString(SummaryText(s));
-  if (summary_->toPlainText() != summary) summary_->setPlainText(summary);
+  const QString summary = SummaryHtml(v);
+  if (summary != shownSummary_) {
+    shownSummary_ = summary;
+    summary_->setHtml(summary);
+  }
   error_->setText(QString::fromStdString(v.txtError));
   error_->setVisible(v.txtErrorVisible);
 
@@ -610,7 +670,8 @@ std::string OpenerOf(const std::string& dialog) {
   static const std::pair<const char*, const char*> openers[] = {
       {"setup", "mnusetup"},         {"Loading", "mnuload1"},   {"endforce", "mnuendforces"},
       {"bucklingy", "cbuttbucklingy"}, {"bucklingz", "cbuttbucklingz"}, {"chpoints", "cp"},
-      {"Modal_ns", "cmd_modresult"},   {"about", "mnuabout"}};
+      {"Modal_ns", "cmd_modresult"},   {"about", "mnuabout"},     {"endstiff", "cbuttsupport"},
+      {"vipping", "cbuttlateral"},     {"detailedresult", "CmdResult"}};
   for (const auto& [name, control] : openers)
     if (dialog == name) return control;
   return {};

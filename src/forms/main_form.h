@@ -10,7 +10,7 @@
 class QAction;
 class QLabel;
 class QMenu;
-class QPlainTextEdit;
+class QTextEdit;
 
 namespace vn::forms {
 
@@ -62,7 +62,8 @@ class MainForm : public QMainWindow {
   QMenu* profilesMenu_ = nullptr;
   std::map<std::string, QAction*> actions_;
   std::map<std::string, QPointer<QWidget>> dialogs_;
-  QPlainTextEdit* summary_ = nullptr;
+  QTextEdit* summary_ = nullptr;
+  QString shownSummary_;
   QLabel* error_ = nullptr;
 };
 
