@@ -78,10 +78,6 @@ QLabel* Shown(FormDialog* d, const std::string& control) {
 QGroupBox* Group(const QString& caption, const char* name = nullptr) {
   auto* g = new QGroupBox(caption);
   if (name) g->setObjectName(name);
-  // A frame is at least as wide as its caption.
-  QString shown = caption;
-  shown.replace("&&", "&");
-  g->setMinimumWidth(g->fontMetrics().horizontalAdvance(shown) + 28);
   return g;
 }
 
@@ -287,7 +283,8 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
   auto* formulas = new QListWidget;
   formulas->setObjectName("Loading.lstCombination");
   formulas->setFixedHeight(52);
-  formulas->setMinimumWidth(formulas->fontMetrics().horizontalAdvance(QString(60, 'x')));
+  formulas->setMinimumWidth(formulas->fontMetrics().horizontalAdvance(QString(56, 'x')));
+  formulas->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   d->bindings()->lines(formulas, d->key("lstCombination"));
   cl->addWidget(formulas);
   top->addWidget(comb, 3);
