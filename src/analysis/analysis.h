@@ -100,6 +100,10 @@ struct Analysis {
   Single ModalMass = 0;                // kg/m
   std::array<Single, 4> ModalFreq{};  // Hz, modes 1..3
 
+  // Whether any load, moment or shear lies in the plane of y or of z: set by the chart stage, read
+  // by the controls of the next run.
+  Boolean hasLoadY = False, hasLoadZ = False;
+
   // Working tables of the solver.
   UnitSolutions unit;
   // The control run of the Eq 6.10a/b choice; empty means RunControls. Tests put a stand-in here.

@@ -126,13 +126,11 @@ void ShowModal(State& s) {
 void ShowDialog(State& s, const std::string& form) {
   auto& open = s.view.openDialogs;
   if (std::find(open.begin(), open.end(), form) == open.end()) open.push_back(form);
-  s.view.visible[form] = true;
 }
 
 void HideDialog(State& s, const std::string& form) {
   auto& open = s.view.openDialogs;
   open.erase(std::remove(open.begin(), open.end(), form), open.end());
-  s.view.visible[form] = false;
 }
 
 void RefreshCheckPointTable(State& s) {
@@ -171,6 +169,25 @@ void RegisterAnalysisControls(ControlTable& t) {
     ActivateEndForces(s);
     return EventResult{};
   });
+  // The buttons of the buckling length factors and of the calculation points.
+  for (const char* axis : {"y", "z"}) {
+    const std::string form = std::string("buckling") + axis;
+    AddControl(t, "", "cbuttbuckling" + std::string(axis), [form](State& s, int, std::string_view) {
+      ShowDialog(s, form);
+      return Fire(s, form + ".Activate");
+    });
+  }
+  AddControl(t, "", "cp", [](State& s, int, std::string_view) {
+    ShowDialog(s, "chpoints");
+    RefreshCheckPointTable(s);
+    return EventResult{};
+  });
+  // A click on a chart opens the loads of the mode in force.
+  for (const char* chart : {"PicMy", "PicMz", "PicLoadY", "PicLoadZ"}) {
+    AddControl(t, "", chart, [](State& s, int, std::string_view) {
+      return Fire(s, s.project.AnalysisMode == 1 ? "mnuload1" : "mnuendforces");
+    });
+  }
   AddControl(t, "", "cmd_modresult", [](State& s, int, std::string_view) {
     // Enabled only while the modal analysis is on.
     if (s.project.chModal == 1) ShowModal(s);

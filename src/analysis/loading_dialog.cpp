@@ -1,6 +1,7 @@
 // The Loading dialog: a form over the load record. Every change writes the record and recalculates;
 // the checks of the record are made when the dialog closes.
 #include <string>
+#include <vector>
 
 #include "analysis/member_analysis.h"
 #include "core/events.h"
@@ -175,6 +176,12 @@ void RefreshLoadTable(State& s) {
   v.value["Loading.qtxrelative"] = l.TrapezoidXRelative != 0 ? 1 : 0;
   v.value["Loading.qtxabsolute"] = l.TrapezoidXRelative != 0 ? 0 : 1;
   v.value["Loading.check_selfweight"] = p.SelfweightOn == 1 ? 1 : 0;
+  std::vector<std::string> modes, psi;
+  for (int i = 0; i < kLoadCombModes; ++i) modes.push_back(LoadCombText(i));
+  for (int i = 0; i < 10; ++i) psi.push_back(F(PsiOfIndex(i), "0.0"));
+  v.items["Loading.CboLoadComb"] = modes;
+  v.items["Loading.Cbo_Q1_Psi1"] = psi;
+  v.items["Loading.Cbo_Q2_Psi2"] = psi;
   v.value["Loading.CboLoadComb"] = p.LoadCombMode;
   v.value["Loading.Cbo_Q1_Psi1"] = p.psiQ1Index;
   v.value["Loading.Cbo_Q2_Psi2"] = p.psiQ2Index;

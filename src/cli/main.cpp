@@ -2,7 +2,7 @@
 // and prints the state, the summary or the project.
 //
 //   varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [--json | --summary | --detail] [--save PATH]
-//               [--xlsx PATH] [--csv PATH]
+//               [--xlsx PATH] [--csv PATH] [--svg DIR]
 //
 // Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
 // calculation error.
@@ -10,6 +10,8 @@
 
 #include <climits>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <cstring>
 #include <iostream>
 #include <optional>
@@ -22,6 +24,7 @@
 #include "core/startup.h"
 #include "core/state.h"
 #include "export/spreadsheet_export.h"
+#include "graphics/canvas.h"
 #include "results/detail_table.h"
 #include "results/summary.h"
 
@@ -37,6 +40,7 @@ const char* kUsage =
     "  --save PATH          save the project to PATH\n"
     "  --xlsx PATH          write the table of detailed results to an .xlsx workbook\n"
     "  --csv PATH           write the table of detailed results as comma-separated text\n"
+    "  --svg DIR            write every picture drawn (charts, figures) as DIR/<name>.svg\n"
     "  --decimal-comma      parse and print numbers as a decimal-comma locale does\n"
     "  --decimal-point      parse and print numbers as a decimal-point locale does\n"
     "  --data DIR           read the data files from DIR instead of the program's folder\n"
@@ -51,10 +55,38 @@ std::string ProgramFolder(const char* argv0) {
   return slash == std::string::npos ? std::string(".") : path.substr(0, slash);
 }
 
+// The size in pixels a picture is written at: about the size of its box on the forms.
+std::pair<double, double> PictureSize(const std::string& name) {
+  if (name.rfind("Pic", 0) == 0) return {420, 220};
+  if (name == "pic11") return {300, 54};
+  if (name == "pic_vipp") return {60, 24};
+  if (name == "pic_loadlevel") return {40, 40};
+  return {220, 220};  // the section figures and Picture4 are square
+}
+
+// Writes each picture as DIR/<name>.svg; false with a message when the folder can't be written.
+bool WritePictures(const vn::State& s, const std::string& dir, std::string* error) {
+  std::error_code ec;
+  std::filesystem::create_directories(dir, ec);
+  for (const auto& [name, drawing] : s.view.pictures) {
+    const auto [w, h] = PictureSize(name);
+    vn::draw::SvgCanvas svg(w, h);
+    vn::draw::Replay(drawing, svg);
+    const std::string path = (std::filesystem::path(dir) / (name + ".svg")).string();
+    std::ofstream out(path, std::ios::binary);
+    out << svg.Svg();
+    if (!out) {
+      *error = "varnelt-cli: can't write " + path;
+      return false;
+    }
+  }
+  return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::string projectPath, savePath, dataDir;
+  std::string projectPath, savePath, dataDir, svgDir;
   std::optional<std::string> xlsxPath, csvPath;  // given, even empty: written (or refused)
   std::vector<std::string> events;
   enum class Out { Project, Json, Summary, Detail, Controls } out = Out::Project;
@@ -78,6 +110,7 @@ int main(int argc, char** argv) {
     else if (a == "--xlsx") xlsxPath = next("PATH");
     else if (a == "--csv") csvPath = next("PATH");
     else if (a == "--data") dataDir = next("DIR");
+    else if (a == "--svg") svgDir = next("DIR");
     else if (a == "--decimal-comma") decimal = 1;
     else if (a == "--decimal-point") decimal = 0;
     else if (a == "--help" || a == "-h") {
@@ -145,6 +178,14 @@ int main(int argc, char** argv) {
         (!csvPath || vn::WriteDetailCsv(s.view.detailGrid, *csvPath, &error));
     if (!written) {
       std::cerr << "varnelt-cli: " << error << "\n";
+      return 3;
+    }
+  }
+
+  if (!svgDir.empty()) {
+    std::string error;
+    if (!WritePictures(s, svgDir, &error)) {
+      std::cerr << error << "\n";
       return 3;
     }
   }

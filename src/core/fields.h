@@ -125,6 +125,7 @@ void VisitAnalysis(V& v, A& a) {
   VN_F(a, colDeflZ); VN_F(a, colDeflY); VN_F(a, IRdeflZ); VN_F(a, IRdeflY);
   VN_F(a, IRsection); VN_F(a, IRbuckling); VN_F(a, IRlimit);
   VN_F(a, ModalMass); VN_F(a, ModalFreq);
+  VN_F(a, hasLoadY); VN_F(a, hasLoadZ);
 }
 
 template <class V, class C>

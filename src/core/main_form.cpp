@@ -1,4 +1,5 @@
 // The controls of the main form and the refresh that copies the record into it.
+#include <algorithm>
 #include <cmath>
 
 #include "core/control_registry.h"
@@ -228,6 +229,18 @@ void RegisterMainFormControls(ControlTable& t) {
   });
   AddControl(t, "", "ch_modal", [](State& s, int, std::string_view text) {
     return OnModalCheck(s, ChoiceIndex(text) == 1);
+  });
+
+  // The dialog about the program.
+  AddControl(t, "", "mnuabout", [](State& s, int, std::string_view) {
+    auto& open = s.view.openDialogs;
+    if (!DialogOpen(s.view, "about")) open.push_back("about");
+    return EventResult{};
+  });
+  AddControl(t, "about", "ok", [](State& s, int, std::string_view) {
+    auto& open = s.view.openDialogs;
+    open.erase(std::remove(open.begin(), open.end(), "about"), open.end());
+    return EventResult{};
   });
 
 }

@@ -2,6 +2,7 @@
 
 #include <locale>
 
+#include "core/file_actions.h"
 #include "core/recalculate.h"
 #include "core/state.h"
 #include "design/design_basis.h"
@@ -19,7 +20,9 @@ bool DetectDecimalComma() {
 
 void StartUp(State& s, const std::string& appPath, bool decimalComma) {
   s.appPath = appPath;
+  s.currentDir = appPath;
   s.decimalComma = decimalComma;
+  BuildRecentMenu(s);
   NewProject(s);
   LoadSettings(s);
   RefreshMainForm(s);

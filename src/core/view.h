@@ -3,11 +3,15 @@
 // only copies them into its widgets. The forms hold no engineering state of their own.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "graphics/canvas.h"
 
 namespace vn {
 
@@ -35,6 +39,9 @@ struct View {
   std::map<std::string, bool> enabled;                    // enabled or disabled
   std::map<std::string, std::vector<std::string>> items;  // items of lists
   std::vector<std::string> openDialogs;                   // dialogs shown, by name
+  // The pictures the stages drew, keyed by picture name ("PicMy", "pic11", "p01.pic1"): a run that
+  // fails leaves the pictures it had not reached as they were.
+  std::map<std::string, draw::Drawing> pictures;
 
   // Section dialog: the dimension and property blocks as label, value text, unit.
   struct Line {
@@ -52,5 +59,10 @@ struct View {
   std::vector<std::array<std::string, 4>> detailGrid;
   std::set<int> detailGridBold;
 };
+
+// Whether a dialog is shown: the one list of open dialogs decides, for every front end.
+inline bool DialogOpen(const View& v, std::string_view form) {
+  return std::find(v.openDialogs.begin(), v.openDialogs.end(), form) != v.openDialogs.end();
+}
 
 }  // namespace vn

@@ -332,6 +332,12 @@ void RegisterSetupControls(ControlTable& t) {
     });
   }
 
+  // The main form's menu entry opens the dialog, filled from the record.
+  AddControl(t, "", "mnusetup", [](State& s, int, std::string_view) {
+    Activate(s);
+    return EventResult{};
+  });
+
   // The dialog itself.
   AddControl(t, kForm, "Activate", [](State& s, int, std::string_view) {
     Activate(s);

@@ -106,7 +106,7 @@ TEST(EndForceDialog, TheMenuEntryEntersEndForceModeOnASimpleSupport) {
   EXPECT_EQ(s.project.AnalysisMode, 0);
   EXPECT_EQ(s.project.SupportType, 0);
   EXPECT_FALSE(s.view.visible["frLc"]);
-  EXPECT_TRUE(s.view.visible["endforce"]);
+  EXPECT_TRUE(DialogOpen(s.view, "endforce"));
   EXPECT_EQ(s.view.text["endforce.imy1"], "100.0");
   EXPECT_EQ(s.view.text["endforce.ivz1"], "50.0");
 }
@@ -183,7 +183,35 @@ TEST(ModalDialog, TheResultButtonWorksOnlyWhileModalAnalysisIsOn) {
   s.project.chModal = 1;
   r = Fire(s, "cmd_modresult");
   EXPECT_TRUE(r.recalculated);
-  EXPECT_TRUE(s.view.visible["Modal_ns"]);
+  EXPECT_TRUE(DialogOpen(s.view, "Modal_ns"));
+}
+
+// ---- The main form's buttons and pictures ----
+
+TEST(AnalysisDialogs, TheMainFormsButtonsOpenTheirDialogs) {
+  State s = NewState();
+  s.project.bucklingCaseZ = 4;
+  Fire(s, "cbuttbucklingz");
+  EXPECT_TRUE(DialogOpen(s.view, "bucklingz"));
+  EXPECT_EQ(s.view.value["bucklingz.bucklingz4"], 1);  // the case in force is marked
+  Fire(s, "bucklingz.ok");
+  EXPECT_FALSE(DialogOpen(s.view, "bucklingz"));
+  Fire(s, "cp");
+  EXPECT_TRUE(DialogOpen(s.view, "chpoints"));
+  Fire(s, "chpoints.ok");
+  EXPECT_FALSE(DialogOpen(s.view, "chpoints"));
+}
+
+TEST(AnalysisDialogs, AClickOnAChartOpensTheLoadsOfTheModeInForce) {
+  State s = NewState();
+  Fire(s, "PicMy");
+  EXPECT_TRUE(DialogOpen(s.view, "Loading"));
+  EXPECT_FALSE(DialogOpen(s.view, "endforce"));
+  Fire(s, "Loading.ok");
+  s.project.AnalysisMode = 0;
+  Fire(s, "PicLoadZ");
+  EXPECT_TRUE(DialogOpen(s.view, "endforce"));
+  EXPECT_EQ(s.project.AnalysisMode, 0);
 }
 
 }  // namespace

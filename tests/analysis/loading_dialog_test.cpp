@@ -242,10 +242,10 @@ TEST(LoadingMenu, OpeningTheDialogEntersBeamMode) {
   EXPECT_TRUE(r.recalculated);
   EXPECT_EQ(s.project.AnalysisMode, 1);
   EXPECT_TRUE(s.view.visible["frLc"]);
-  EXPECT_TRUE(s.view.visible["Loading"]);
+  EXPECT_TRUE(DialogOpen(s.view, "Loading"));
   EXPECT_EQ(s.view.text["Loading.iq(1)"], "10.0");
   Fire(s, "Loading.ok");
-  EXPECT_FALSE(s.view.visible["Loading"]);
+  EXPECT_FALSE(DialogOpen(s.view, "Loading"));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "core/state.h"
 #include "design/design_basis.h"
 #include "design_test_support.h"
+#include "support/test_support.h"
 
 namespace vn {
 namespace {
@@ -321,6 +322,14 @@ TEST(SetupDialog, ActivateFillsTheFieldsAndListsFromTheRecord) {
   Fire(s, "setup.CmdOK");
   EXPECT_EQ(std::find(v.openDialogs.begin(), v.openDialogs.end(), "setup"), v.openDialogs.end());
   EXPECT_DOUBLE_EQ(p.gammaM0, 1.05);  // closing keeps the settings
+}
+
+TEST(SetupDialog, TheMenuEntryOpensItFilled) {
+  State s = test::StartedState();
+  Fire(s, "mnusetup");
+  EXPECT_TRUE(DialogOpen(s.view, "setup"));
+  EXPECT_EQ(s.view.items["setup.Cbo1993"].size(), 9u);
+  EXPECT_EQ(s.view.value["setup.CboLoadComb"], s.project.LoadCombMode);
 }
 
 TEST(SetupDialog, ActivateOnAnotherCodeShowsItsFactorsDisabled) {

@@ -1,0 +1,116 @@
+// varnelt: the desktop program.
+//
+//   varnelt [PROJECT.vnt]
+//   varnelt --screenshot PATH [PROJECT.vnt]        the main form as a PNG picture, no display needed
+//   varnelt --screenshot-dialog NAME PATH [PROJECT] a dialog ("p01") as a PNG picture
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QTimer>
+#include <clocale>
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "core/startup.h"
+#include "export/spreadsheet_export.h"
+#include "forms/look.h"
+#include "forms/main_form.h"
+#include "forms/session.h"
+#include "forms/settings_store.h"
+
+namespace {
+
+const char* kUsage =
+    "usage: varnelt [PROJECT.vnt]\n"
+    "       varnelt --screenshot PATH [PROJECT.vnt]\n"
+    "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n";
+
+// Lets the window settle: layouts, deferred events, the first paint.
+void Settle() {
+  for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+}
+
+bool Save(QWidget* w, const QString& path) {
+  Settle();
+  QPixmap shot = w->grab();
+  if (!shot.save(path, "PNG")) {
+    std::fprintf(stderr, "varnelt: can't write %s\n", path.toLocal8Bit().constData());
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::string shotPath, dialogName, projectPath;
+  bool shot = false;
+  for (int i = 1; i < argc; ++i) {
+    const std::string a = argv[i];
+    if (a == "--screenshot" && i + 1 < argc) {
+      shot = true;
+      shotPath = argv[++i];
+    } else if (a == "--screenshot-dialog" && i + 2 < argc) {
+      shot = true;
+      dialogName = argv[++i];
+      shotPath = argv[++i];
+    } else if (a == "--help" || a == "-h") {
+      std::fputs(kUsage, stdout);
+      return 0;
+    } else if (a == "-style" || a == "-platform") {
+      ++i;  // Qt's own options with a value
+    } else if (!a.empty() && a[0] == '-' && a.rfind("-style=", 0) != 0 &&
+               a.rfind("-platform=", 0) != 0) {
+      std::fprintf(stderr, "varnelt: unknown option %s\n%s", a.c_str(), kUsage);
+      return 2;
+    } else if (!a.empty() && a[0] != '-') {
+      if (!projectPath.empty()) {
+        std::fprintf(stderr, "varnelt: more than one project file given\n");
+        return 2;
+      }
+      projectPath = a;
+    }
+  }
+  // A picture needs no display.
+  if (shot && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+
+  QApplication app(argc, argv);
+  // The core reads and writes numbers itself; the C library stays with the point.
+  std::setlocale(LC_NUMERIC, "C");
+  QApplication::setApplicationName("Varnelt EC3");
+  QApplication::setOrganizationName("Varnelt_ns");
+  vn::forms::ApplyLook(app);
+
+  vn::forms::Session session;
+  // The recent files in the platform's per-user store.
+  session.state().settings = std::make_shared<vn::forms::PlatformSettingsStore>();
+  // The export of More Results: an .xlsx workbook, or CSV by the name.
+  session.state().spreadsheet = vn::ExportDetailGrid;
+  session.start(QCoreApplication::applicationDirPath().toStdString(), vn::DetectDecimalComma());
+  vn::forms::MainForm form(&session);
+
+  if (!projectPath.empty()) {
+    const std::string path = QDir::current().absoluteFilePath(QString::fromStdString(projectPath)).toStdString();
+    if (!vn::forms::Session::knows("mnuopen")) {
+      std::fprintf(stderr, "varnelt: opening project files is not available in this build\n");
+    } else {
+      vn::EventResult r = session.fire("mnuopen", path);
+      if (r.refused) std::fprintf(stderr, "%s\n", r.message.c_str());
+    }
+  }
+
+  if (shot) {
+    form.show();
+    if (dialogName.empty()) return Save(&form, QString::fromStdString(shotPath)) ? 0 : 3;
+    QWidget* d = form.openDialog(dialogName);
+    if (!d) {
+      std::fprintf(stderr, "varnelt: no dialog %s\n", dialogName.c_str());
+      return 2;
+    }
+    return Save(d, QString::fromStdString(shotPath)) ? 0 : 3;
+  }
+
+  form.show();
+  return app.exec();
+}

@@ -1,0 +1,762 @@
+#include "forms/main_form.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <tuple>
+
+#include "forms/bindings.h"
+#include "forms/form_dialog.h"
+#include "forms/painter_canvas.h"
+#include "forms/picture_box.h"
+#include "forms/profiles.h"
+#include "forms/section_dialog.h"
+#include "forms/session.h"
+#include "graphics/support_symbols.h"
+#include "results/summary.h"
+
+namespace vn::forms {
+
+namespace {
+
+QGroupBox* Frame(const QString& caption, const char* name, QWidget* parent = nullptr) {
+  auto* g = new QGroupBox(caption, parent);
+  g->setObjectName(name);
+  return g;
+}
+
+// The layout of a frame, kept close to its border.
+template <class L>
+L* Inside(QWidget* frame) {
+  auto* l = new L(frame);
+  l->setContentsMargins(6, 2, 6, 2);
+  l->setSpacing(3);
+  return l;
+}
+
+QLineEdit* Field(int width = 0) {
+  auto* e = new QLineEdit;
+  e->setAlignment(Qt::AlignRight);
+  if (width > 0) e->setFixedWidth(width);
+  return e;
+}
+
+// The picture of an end support option, drawn by the core's symbol routine.
+QIcon SupportIcon(int type, QSize size) {
+  const qreal ratio = qApp->devicePixelRatio();
+  QPixmap pm(size * ratio);
+  pm.setDevicePixelRatio(ratio);
+  pm.fill(Qt::transparent);
+  QPainter p(&pm);
+  PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
+  DrawSupportIcon(canvas, type);
+  p.end();
+  return QIcon(pm);
+}
+
+// The picture of a buckling length button (1..6).
+QIcon BucklingIcon(int picture) {
+  static QIcon icons[7];
+  if (picture < 1 || picture > 6) picture = 6;
+  if (icons[picture].isNull()) {
+    const QSize size(14, 28);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap pm(size * ratio);
+    pm.setDevicePixelRatio(ratio);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
+    DrawBucklingCaseIcon(canvas, picture);
+    p.end();
+    icons[picture] = QIcon(pm);
+  }
+  return icons[picture];
+}
+
+// The colours of the ratios: index 2 green, 4 red, as the program's palette has them.
+QString RatioColour(int index) {
+  if (index == 2) return QStringLiteral("#008000");
+  if (index == 4) return QStringLiteral("#c00000");
+  return QStringLiteral("#000000");
+}
+
+// The summary of controls: titles bold and underlined with their note in plain type, each control
+// line with its formula and numbers, the ratio in its colour and the limit, in three columns.
+QString SummaryHtml(const View& v) {
+  auto esc = [](const std::string& t) { return QString::fromStdString(t).toHtmlEscaped(); };
+  // The formulas wrap where the results area is too narrow; ratio and limit stay whole.
+  QString html = QStringLiteral("<table width='100%' cellspacing=0 cellpadding=1>");
+  bool first = true;
+  for (const SummaryLine& l : v.summary) {
+    if (l.title) {
+      html += QStringLiteral("<tr><td colspan=3 style='padding-top:%1px'><b><u>%2</u></b>%3</td></tr>")
+                  .arg(first ? 0 : 8)
+                  .arg(esc(l.left), esc(l.note));
+    } else if (l.ratio.empty()) {
+      html += QStringLiteral("<tr><td colspan=3>%1 %2</td></tr>").arg(esc(l.left), esc(l.note));
+    } else {
+      html += QStringLiteral(
+                  "<tr><td>%1</td><td align=right style='white-space:pre'><b><font color='%2'>"
+                  "&nbsp;%3</font></b></td><td style='white-space:pre'>%4%5</td></tr>")
+                  .arg(esc(l.left), RatioColour(l.colour), esc(l.ratio), esc(l.limit), esc(l.note));
+    }
+    first = false;
+  }
+  return html + QStringLiteral("</table>");
+}
+
+const char* const kSupportTips[6] = {
+    "Simply supported", "Pinned at x=0, fixed at x=L", "Fixed at both ends",
+    "Spring restraint at both ends", "Cantilever: fixed at x=0, free at x=L",
+    "Pinned at x=0, spring restraint at x=L"};
+
+// Menu entries the form handles itself, whether or not the core has a control for them.
+bool FormHandles(const std::string& control) {
+  return control == "mnuexit" || control == "mnuabout" || control == "mnuProfDB";
+}
+
+QString TheoryManualPath(const Session* s) {
+  return QString::fromStdString(s->state().appPath) +
+         QStringLiteral("/Documentation/Varnelt EC3 Theory Manual.pdf");
+}
+
+}  // namespace
+
+MainForm::MainForm(Session* session, QWidget* parent)
+    : QMainWindow(parent), session_(session), bindings_(new Bindings(session, this)) {
+  setObjectName("frmMain");
+  buildMenus();
+  buildForm();
+  resize(startSize());
+  connect(session_, &Session::changed, this, &MainForm::refresh);
+  connect(session_, &Session::exitRequested, this, [] { QCoreApplication::exit(0); });
+  // The right mouse button anywhere on the form brings up the Profiles menu.
+  qApp->installEventFilter(this);
+  refresh();
+}
+
+MainForm::~MainForm() {
+  qApp->removeEventFilter(this);
+}
+
+QSize MainForm::startSize() const {
+  QScreen* screen = this->screen() ? this->screen() : QGuiApplication::primaryScreen();
+  double dpiX = 96, dpiY = 96;
+  QSize room(1 << 15, 1 << 15);
+  if (screen) {
+    // Logical pixels: with the display scaled, Qt already multiplies them by the device ratio.
+    dpiX = screen->logicalDotsPerInchX();
+    dpiY = screen->logicalDotsPerInchY();
+    // A picture drawn without a display keeps the designed size.
+    if (QGuiApplication::platformName() != "offscreen") room = screen->availableGeometry().size();
+  }
+  const int w = qRound(dpiX / 96.0 * 1024);
+  const int h = qRound(dpiY / 96.0 * 0.965 * 768);
+  return QSize(std::min(w, room.width()), std::min(h, room.height()));
+}
+
+QAction* MainForm::addEntry(QMenu* menu, const std::string& control, const QString& caption) {
+  QAction* a = menu->addAction(caption);
+  a->setObjectName(QString::fromStdString(control));
+  actions_[control] = a;
+  connect(a, &QAction::triggered, this, [this, control] { onMenu(control); });
+  return a;
+}
+
+QAction* MainForm::menuAction(const std::string& control) const {
+  auto it = actions_.find(control);
+  return it == actions_.end() ? nullptr : it->second;
+}
+
+void MainForm::buildMenus() {
+  QMenuBar* bar = menuBar();
+
+  QMenu* file = bar->addMenu("&File");
+  file->setObjectName("mnufile");
+  addEntry(file, "mnunew", "&New");
+  addEntry(file, "mnuopen", "&Open");
+  addEntry(file, "mnusave", "&Save");
+  addEntry(file, "mnusaveas", "Save &As");
+  file->addSeparator()->setObjectName("mnuspc");
+  addEntry(file, "mnuprint00", "Print - Section &Property and Capacity");
+  addEntry(file, "mnuprint11", "Print  - Section and Stability Control");
+  QAction* recentLine = file->addSeparator();
+  recentLine->setObjectName("mnurecentfile(0)");
+  actions_["mnurecentfile(0)"] = recentLine;
+  recentLine->setVisible(false);
+  for (int i = 1; i <= 4; ++i) {
+    QAction* a = addEntry(file, "mnurecentfile(" + std::to_string(i) + ")",
+                          QString("oldfile%1").arg(i));
+    a->setVisible(false);
+  }
+  file->addSeparator()->setObjectName("mnuspace");
+  addEntry(file, "mnuexit", "&Exit");
+
+  // Entries of the menu bar that act at once.
+  auto top = [this, bar](const std::string& control, const QString& caption) {
+    QAction* a = bar->addAction(caption);
+    a->setObjectName(QString::fromStdString(control));
+    actions_[control] = a;
+    connect(a, &QAction::triggered, this, [this, control] { onMenu(control); });
+  };
+  top("mnusetup", "&Setup");
+
+  profilesMenu_ = bar->addMenu("&Profiles");
+  profilesMenu_->setObjectName("mnustiff");
+  for (const ProfileEntry& e : kProfiles) {
+    if (e.separatorBefore) profilesMenu_->addSeparator();
+    if (std::string(e.menu) == "mnuu") {
+      QAction* label = profilesMenu_->addAction(kBritishLabel);
+      label->setObjectName(kBritishLabelControl);
+      label->setEnabled(false);
+    }
+    addEntry(profilesMenu_, e.menu, e.caption);
+  }
+
+  top("mnuload1", "&Loading");
+  top("mnuendforces", "&Endforces");
+
+  QMenu* print = bar->addMenu("P&rint");
+  print->setObjectName("mnuprint");
+  addEntry(print, "mnuprint0", "Section &Property and Capacity");
+  addEntry(print, "mnuprint1", "&Section and Stability Control");
+
+  top("mnuProfDB", "Profile Database");
+
+  QMenu* help = bar->addMenu("&Help");
+  help->setObjectName("mnuhelp");
+  addEntry(help, "mnuhelpcont", "&Contents");
+  addEntry(help, "mnuhelpsearch", "&Search for Help On . . . ");
+  addEntry(help, "mnuTheory", "Theory Manual");
+  help->addSeparator()->setObjectName("line");
+  addEntry(help, "mnuabout", "&About Varnelt - EC3");
+}
+
+void MainForm::buildForm() {
+  auto* central = new QWidget(this);
+  central->setObjectName("central");
+  setCentralWidget(central);
+  auto* grid = new QGridLayout(central);
+  grid->setContentsMargins(8, 4, 8, 8);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(6);
+  Bindings& b = *bindings_;
+
+  // ---- Input ----
+  auto* fr1 = Frame("Input", "fr1");
+  auto* input = Inside<QVBoxLayout>(fr1);
+  input->setSpacing(4);
+
+  auto* names = new QFormLayout;
+  names->setHorizontalSpacing(6);
+  names->setVerticalSpacing(3);
+  auto* iproj = new QLineEdit;
+  auto* iident = new QLineEdit;
+  b.textField(iproj, "iproj");
+  b.textField(iident, "iident");
+  names->addRow("Project", iproj);
+  names->addRow("Ident", iident);
+  input->addLayout(names);
+
+  auto* fr11 = Frame("Member data (m)", "fr11");
+  auto* member = Inside<QHBoxLayout>(fr11);
+  auto* il = Field(70);
+  b.field(il, "il");
+  member->addWidget(new QLabel("L ="));
+  member->addWidget(il);
+  member->addStretch();
+  input->addWidget(fr11);
+
+  auto* column = Frame("Column data", "columnframe");
+  b.frame(column, "columnframe");
+  auto* cgrid = Inside<QGridLayout>(column);
+  cgrid->setHorizontalSpacing(4);
+  cgrid->setVerticalSpacing(3);
+  cgrid->addWidget(new QLabel("Y-axis"), 0, 1, 1, 2, Qt::AlignCenter);
+  cgrid->addWidget(new QLabel("Z-axis"), 0, 3, 1, 2, Qt::AlignCenter);
+  cgrid->addWidget(new QLabel("Length factor"), 1, 0);
+  cgrid->addWidget(new QLabel("Buckling curve"), 2, 0);
+  const char* axes[2][5] = {{"ibly", "cbuttbucklingy", "cbobcy", "obcy", "Y"},
+                            {"iblz", "cbuttbucklingz", "cbobcz", "obcz", "Z"}};
+  for (int k = 0; k < 2; ++k) {
+    const int col = 1 + 2 * k;
+    auto* factor = Field(48);
+    b.field(factor, axes[k][0]);
+    auto* cases = new QToolButton;
+    cases->setIconSize(QSize(14, 28));
+    cases->setToolTip(QString("Buckling length, %1-axis").arg(axes[k][4]));
+    b.button(cases, axes[k][1]);
+    auto* curve = new QComboBox;
+    curve->setFixedWidth(58);
+    b.list(curve, axes[k][2]);
+    auto* curveText = new QLabel;
+    b.label(curveText, axes[k][3]);
+    cgrid->addWidget(factor, 1, col);
+    cgrid->addWidget(cases, 1, col + 1);
+    cgrid->addWidget(curve, 2, col);
+    cgrid->addWidget(curveText, 2, col + 1);
+  }
+  cgrid->setColumnStretch(0, 1);
+  input->addWidget(column);
+
+  auto* material = Frame("Material", "Frame4");
+  auto* mat = Inside<QHBoxLayout>(material);
+  auto* cbofyk = new QComboBox;
+  cbofyk->setMinimumContentsLength(8);
+  b.list(cbofyk, "cbofyk");
+  auto* ifyk = Field(48);
+  b.field(ifyk, "ifyk");
+  mat->addWidget(cbofyk, 1);
+  mat->addWidget(new QLabel("fyk ="));
+  mat->addWidget(ifyk);
+  mat->addWidget(new QLabel("MPa"));
+  input->addWidget(material);
+
+  auto* ltb = Frame("Lateral Torsional Buckling", "Frame1");
+  auto* lt = Inside<QHBoxLayout>(ltb);
+  auto* vipp = new QCheckBox("Lat tors buckl");
+  b.check(vipp, "ch_vipp");
+  auto* ltbButton = new QToolButton;
+  ltbButton->setText("...");
+  ltbButton->setToolTip("Lateral torsional buckling parameters");
+  b.button(ltbButton, "cbuttlateral");
+  auto* zaa = new QLabel;
+  b.label(zaa, "zaa");
+  b.frame(zaa, "zaa");
+  auto* picVipp = new PictureBox(session_, "pic_vipp");
+  picVipp->setFixedSize(50, 20);
+  picVipp->setFrameShape(QFrame::NoFrame);
+  b.picture(picVipp);
+  b.frame(picVipp, "pic_vipp");
+  auto* picLevel = new PictureBox(session_, "pic_loadlevel");
+  picLevel->setFixedSize(24, 22);
+  picLevel->setFrameShape(QFrame::NoFrame);
+  picLevel->setToolTip("Load level");
+  b.picture(picLevel);
+  b.frame(picLevel, "pic_loadlevel");
+  lt->addWidget(vipp);
+  lt->addWidget(ltbButton);
+  lt->addWidget(picVipp);
+  lt->addStretch();
+  lt->addWidget(zaa);
+  lt->addWidget(picLevel);
+  input->addWidget(ltb);
+
+  auto* supports = Frame("End supports", "Frame2");
+  auto* sup = Inside<QGridLayout>(supports);
+  sup->setSpacing(3);
+  const QSize iconSize(54, 27);
+  for (int type = 0; type <= 5; ++type) {
+    auto* option = new QToolButton;
+    option->setIcon(SupportIcon(type, iconSize));
+    option->setIconSize(iconSize);
+    option->setToolTip(kSupportTips[type]);
+    option->setAutoRaise(false);
+    b.option(option, "cbutt" + std::to_string(type), "cbutt", type);
+    sup->addWidget(option, type / 3, type % 3);
+  }
+  input->addWidget(supports);
+
+  auto* support = Frame("Support", "fr14");
+  auto* sp = Inside<QGridLayout>(support);
+  sp->setSpacing(4);
+  auto* springBox = new QWidget;
+  auto* spring = new QHBoxLayout(springBox);
+  spring->setContentsMargins(0, 0, 0, 0);
+  auto* ispring = Field(40);
+  b.frame(springBox, "ispring");
+  b.field(ispring, "ispring");
+  spring->addWidget(new QLabel("Spring ="));
+  spring->addWidget(ispring);
+  spring->addWidget(new QLabel("%"));
+  spring->addStretch();
+  auto* stiffeners = new QPushButton("Web stiffeners...");
+  b.button(stiffeners, "cbuttsupport");
+  auto* pic11 = new PictureBox(session_, "pic11");
+  pic11->setMinimumHeight(46);
+  b.picture(pic11);
+  // The web stiffeners and the shear capacities of the families that have them.
+  auto* webRow = new QHBoxLayout;
+  webRow->setSpacing(4);
+  for (const char* name : {"owebstiff", "owebcc"}) {
+    auto* l = new QLabel;
+    b.label(l, name);
+    b.frame(l, name);
+    webRow->addWidget(l);
+  }
+  webRow->addStretch();
+  auto* capacities = new QVBoxLayout;
+  capacities->setSpacing(0);
+  for (const char* name : {"ovplzrd", "ovbzrd"}) {
+    auto* l = new QLabel;
+    QFont f = l->font();
+    f.setPointSizeF(f.pointSizeF() * 0.92);
+    l->setFont(f);
+    b.label(l, name);
+    b.frame(l, name);
+    capacities->addWidget(l);
+  }
+  auto* top = new QHBoxLayout;
+  top->addWidget(springBox);
+  top->addLayout(webRow, 1);
+  sp->addLayout(top, 0, 0);
+  sp->addWidget(stiffeners, 0, 1, Qt::AlignRight);
+  sp->addWidget(pic11, 1, 0, 1, 2);
+  sp->addLayout(capacities, 2, 0, 1, 2);
+  input->addWidget(support);
+  input->addStretch();
+
+  // ---- Calculation data ----
+  auto* calc = Frame("Calculation data", "Frame3");
+  auto* cl = Inside<QVBoxLayout>(calc);
+  cl->setSpacing(4);
+  auto* modalFrame = Frame("Modal Analysis", "Frame5");
+  auto* modal = Inside<QHBoxLayout>(modalFrame);
+  auto* chModal = new QCheckBox("Modal analysis");
+  b.check(chModal, "ch_modal");
+  auto* modalResults = new QPushButton("Results");
+  b.button(modalResults, "cmd_modresult");
+  modal->addWidget(chModal);
+  modal->addStretch();
+  modal->addWidget(modalResults);
+  cl->addWidget(modalFrame);
+
+  auto* pointsFrame = Frame("Calculation points", "cpframe");
+  auto* points = Inside<QHBoxLayout>(pointsFrame);
+  auto* cp = new QPushButton("Calculation points...");
+  b.button(cp, "cp");
+  points->addWidget(cp);
+  points->addStretch();
+  cl->addWidget(pointsFrame);
+
+  auto* lc = Frame("Load Combinations (LC)", "frLc");
+  b.frame(lc, "frLc");
+  auto* lcl = Inside<QGridLayout>(lc);
+  lcl->setSpacing(4);
+  auto* combos = new QComboBox;
+  b.list(combos, "CboLoadComb");
+  auto* sls = new QCheckBox("Incl Deflection control L/");
+  b.check(sls, "CheckSLS");
+  auto* limit = Field(48);
+  b.field(limit, "idef_limit");
+  lcl->addWidget(combos, 0, 0, 1, 2);
+  lcl->addWidget(sls, 1, 0);
+  lcl->addWidget(limit, 1, 1);
+  lcl->setColumnStretch(0, 1);
+  cl->addWidget(lc);
+  cl->addStretch();
+
+  // ---- Charts ----
+  auto chartFrame = [this, &b](const QString& caption, const char* frame, const char* load,
+                               const char* result) {
+    auto* f = Frame(caption, frame);
+    auto* l = Inside<QVBoxLayout>(f);
+    auto* loads = new PictureBox(session_, load);
+    auto* results = new PictureBox(session_, result);
+    b.picture(loads);
+    b.picture(results);
+    b.frame(loads, load);
+    b.frame(results, result);
+    loads->setMinimumHeight(60);
+    results->setMinimumHeight(120);
+    results->setReadout(true);
+    l->addWidget(loads, 1);
+    l->addWidget(results, 2);
+    // While the direction carries nothing both charts are hidden: the frame says so.
+    auto* none = new QLabel(QStringLiteral("No loading in this direction"));
+    none->setObjectName(QString(frame) + "None");
+    none->setAlignment(Qt::AlignCenter);
+    none->setEnabled(false);
+    none->hide();
+    l->addWidget(none, 1);
+    return f;
+  };
+  auto* fr2 = chartFrame("Loading/Moment/Shear/Deflection - Z-axis  ", "fr2", "PicLoadZ", "PicMy");
+  auto* fr3 = chartFrame("Loading/Moment/Shear/Deflection - Y-axis  ", "fr3", "PicLoadY", "PicMz");
+
+  // ---- Results ----
+  auto* fr4 = Frame("Results ", "fr4");
+  auto* rl = Inside<QGridLayout>(fr4);
+  rl->setSpacing(4);
+  auto* picture4 = new PictureBox(session_, "Picture4");
+  picture4->setFixedSize(96, 96);
+  picture4->setSquare(true);
+  b.picture(picture4);
+  auto* profile = new QLabel;
+  profile->setObjectName("profileName");
+  profile->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+  profile->setWordWrap(true);
+  summary_ = new QTextEdit;
+  summary_->setObjectName("summary");
+  summary_->setReadOnly(true);
+  summary_->setFrameShape(QFrame::Panel);
+  summary_->setFrameShadow(QFrame::Sunken);
+  summary_->setLineWrapMode(QTextEdit::WidgetWidth);
+  summary_->setFocusPolicy(Qt::NoFocus);
+  error_ = new QLabel;
+  error_->setObjectName("txtError");
+  error_->setWordWrap(true);
+  QPalette red = error_->palette();
+  red.setColor(QPalette::WindowText, Qt::red);
+  error_->setPalette(red);
+  QFont bold = error_->font();
+  bold.setBold(true);
+  error_->setFont(bold);
+  error_->hide();
+  auto* more = new QPushButton("More Results");
+  b.button(more, "CmdResult");
+  rl->addWidget(picture4, 0, 0);
+  rl->addWidget(profile, 1, 0);
+  rl->addWidget(summary_, 0, 1, 3, 1);
+  rl->addWidget(error_, 3, 0, 1, 2);
+  rl->addWidget(more, 2, 0, Qt::AlignBottom);
+  rl->setColumnStretch(1, 1);
+  rl->setRowStretch(2, 1);
+
+  // ---- Arrangement: input and calculation data at the left, charts, results at the foot ----
+  auto* left = new QVBoxLayout;
+  left->setSpacing(6);
+  left->addWidget(fr1, 1);
+  left->addWidget(calc);
+  fr1->setFixedWidth(300);
+  calc->setFixedWidth(300);
+  grid->addLayout(left, 0, 0, 2, 1);
+  grid->addWidget(fr2, 0, 1);
+  grid->addWidget(fr3, 0, 2);
+  grid->addWidget(fr4, 1, 1, 1, 2);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(0, 3);
+  grid->setRowStretch(1, 2);
+}
+
+void MainForm::refresh() {
+  const State& s = session_->state();
+  const View& v = s.view;
+  setWindowTitle(QString::fromStdString(v.caption));
+  bindings_->refresh();
+
+  for (auto& [control, action] : actions_) {
+    if (auto it = v.visible.find(control); it != v.visible.end()) action->setVisible(it->second);
+    if (action->isSeparator()) continue;
+    if (auto it = v.text.find(control); it != v.text.end()) {
+      QString caption = QString::fromStdString(it->second);
+      caption.replace("&", "&&");
+      action->setText(caption);
+    }
+    bool enabled = Session::knows(control) || FormHandles(control) ||
+                   (control == "mnuTheory" && QFileInfo::exists(TheoryManualPath(session_)));
+    if (auto it = v.enabled.find(control); it != v.enabled.end()) enabled = enabled && it->second;
+    action->setEnabled(enabled);
+  }
+
+  // The section in use: its name as the family writes it, else the row chosen in its dialog's
+  // list, else the family's short name.
+  QString profile = QString::fromStdString(s.project.profileName);
+  for (const ProfileEntry& e : kProfiles) {
+    if (e.type != s.project.ProfileType) continue;
+    const std::string list = std::string(e.dialog) + ".cbo";
+    auto name = v.text.find(std::string(e.dialog) + ".oname");
+    auto items = v.items.find(list);
+    auto index = v.value.find(list);
+    if (name != v.text.end() && !name->second.empty())
+      profile = QString::fromStdString(name->second);
+    else if (items != v.items.end() && index != v.value.end() && index->second >= 0 &&
+             index->second < static_cast<int>(items->second.size()))
+      profile = QString::fromStdString(items->second[static_cast<size_t>(index->second)]);
+    break;
+  }
+  if (auto* label = findChild<QLabel*>("profileName")) label->setText(profile);
+
+  // The buckling length buttons show the case in force.
+  for (const char* name : {"cbuttbucklingy", "cbuttbucklingz"}) {
+    auto it = v.value.find(name);
+    if (auto* button = findChild<QToolButton*>(name))
+      button->setIcon(BucklingIcon(it != v.value.end() ? it->second : 2));
+  }
+
+  for (const auto& [frame, load, result] :
+       {std::tuple{"fr2", "PicLoadZ", "PicMy"}, std::tuple{"fr3", "PicLoadY", "PicMz"}}) {
+    auto shown = [&v](const char* name) {
+      auto it = v.visible.find(name);
+      return it == v.visible.end() || it->second;
+    };
+    if (auto* none = findChild<QLabel*>(QString(frame) + "None"))
+      none->setVisible(!shown(load) && !shown(result));
+  }
+
+  const QString summary = SummaryHtml(v);
+  if (summary != shownSummary_) {
+    shownSummary_ = summary;
+    summary_->setHtml(summary);
+  }
+  error_->setText(QString::fromStdString(v.txtError));
+  error_->setVisible(v.txtErrorVisible);
+
+  syncDialogs();
+}
+
+void MainForm::onMenu(const std::string& control) {
+  State& s = session_->state();
+  if (control == "mnuexit") {
+    if (Session::knows(control)) session_->fire(control);
+    QCoreApplication::exit(0);  // at once: nothing asked, nothing saved
+    return;
+  }
+  if (control == "mnuabout" && !Session::knows(control)) {
+    QMessageBox::about(this, "About Varnelt - EC3",
+                       "Varnelt EC3\n\nDesign of one steel member, beam or column, to Eurocode 3.");
+    return;
+  }
+  if (control == "mnuProfDB" && !Session::knows(control)) return;  // no action of its own
+  if (control == "mnuTheory" && !Session::knows(control)) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(TheoryManualPath(session_)));
+    return;
+  }
+  const QString filter = "Varnelt EC3 (*.vnt);;All files (*)";
+  const QString folder = QString::fromStdString(s.currentDir.empty() ? s.appPath : s.currentDir);
+  if (control == "mnuopen") {
+    const QString path = QFileDialog::getOpenFileName(this, "Open", folder, filter);
+    if (path.isEmpty()) return;
+    session_->fireAndTell(this, control, path.toStdString());
+    return;
+  }
+  if (control == "mnusaveas" || (control == "mnusave" && s.project.fileName == "New File")) {
+    QString path = QFileDialog::getSaveFileName(this, "Save As", folder, filter);
+    if (path.isEmpty()) return;
+    if (QFileInfo(path).suffix().isEmpty()) path += ".vnt";
+    session_->fireAndTell(this, control, path.toStdString());
+    return;
+  }
+  session_->fireAndTell(this, control);
+}
+
+// ---- Dialogs ----
+
+QWidget* MainForm::createDialog(const std::string& name) {
+  if (const ProfileEntry* e = ProfileOfDialog(name)) {
+    auto* d = new SectionDialog(session_, *e, this);
+    return d;
+  }
+  return CreateFormDialog(session_, name, this);
+}
+
+namespace {
+
+// The control of the main form that opens a dialog, as the person opens it.
+std::string OpenerOf(const std::string& dialog) {
+  static const std::pair<const char*, const char*> openers[] = {
+      {"setup", "mnusetup"},         {"Loading", "mnuload1"},   {"endforce", "mnuendforces"},
+      {"bucklingy", "cbuttbucklingy"}, {"bucklingz", "cbuttbucklingz"}, {"chpoints", "cp"},
+      {"Modal_ns", "cmd_modresult"},   {"about", "mnuabout"},     {"endstiff", "cbuttsupport"},
+      {"vipping", "cbuttlateral"},     {"detailedresult", "CmdResult"}};
+  for (const auto& [name, control] : openers)
+    if (dialog == name) return control;
+  return {};
+}
+
+}  // namespace
+
+QWidget* MainForm::dialog(const std::string& name) const {
+  auto it = dialogs_.find(name);
+  return it == dialogs_.end() ? nullptr : it->second.data();
+}
+
+void MainForm::syncDialogs() {
+  const auto& open = session_->state().view.openDialogs;
+  for (const std::string& name : open) {
+    if (dialog(name)) continue;
+    if (QWidget* d = createDialog(name)) {
+      dialogs_[name] = d;
+      d->show();
+    }
+  }
+  for (auto it = dialogs_.begin(); it != dialogs_.end();) {
+    QWidget* d = it->second.data();
+    const bool listed = std::find(open.begin(), open.end(), it->first) != open.end();
+    if (!d) {
+      it = dialogs_.erase(it);
+    } else if (!listed && !d->property("keptByForm").toBool()) {
+      it = dialogs_.erase(it);
+      d->close();
+    } else {
+      ++it;
+    }
+  }
+}
+
+QWidget* MainForm::openDialog(const std::string& name) {
+  if (QWidget* d = dialog(name)) {
+    d->raise();
+    return d;
+  }
+  std::string opener;
+  if (const ProfileEntry* e = ProfileOfDialog(name)) opener = e->menu;
+  else opener = OpenerOf(name);
+  if (!opener.empty() && Session::knows(opener)) {
+    session_->fireAndTell(this, opener);
+    if (QWidget* d = dialog(name)) return d;
+  }
+  // The core has no entry for it yet: the form shows it with what the State holds.
+  QWidget* d = createDialog(name);
+  if (!d) return nullptr;
+  d->setProperty("keptByForm", true);
+  dialogs_[name] = d;
+  d->show();
+  return d;
+}
+
+// ---- Events ----
+
+bool MainForm::eventFilter(QObject* watched, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type == QEvent::FocusIn && (watched->objectName() == "ibly" || watched->objectName() == "iblz")) {
+    // Typing a factor: its button shows the picture of a typed factor.
+    const QString button = watched->objectName() == "ibly" ? "cbuttbucklingy" : "cbuttbucklingz";
+    if (auto* b = findChild<QToolButton*>(button)) b->setIcon(BucklingIcon(6));
+    return false;
+  }
+  if (type != QEvent::MouseButtonRelease && type != QEvent::ContextMenu) return false;
+  auto* w = qobject_cast<QWidget*>(watched);
+  if (!w || w->window() != this) return false;
+  if (type == QEvent::ContextMenu) return true;  // the fields' own menus give way to the Profiles menu
+  auto* mouse = static_cast<QMouseEvent*>(event);
+  if (mouse->button() != Qt::RightButton) return false;
+  profilesMenu_->popup(mouse->globalPosition().toPoint());
+  return true;
+}
+
+bool MainForm::event(QEvent* event) {
+  // The Activate event of the main form copies the record into it.
+  if (event->type() == QEvent::WindowActivate && session_->activated(this)) session_->refreshMainForm();
+  return QMainWindow::event(event);
+}
+
+void MainForm::closeEvent(QCloseEvent* event) {
+  event->accept();
+  QCoreApplication::exit(0);  // closing the main form ends the program at once
+}
+
+}  // namespace vn::forms

@@ -1,0 +1,204 @@
+#include "forms/section_dialog.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "forms/bindings.h"
+#include "forms/picture_box.h"
+#include "forms/session.h"
+
+namespace vn::forms {
+
+// ---- ValueBlock ----
+
+ValueBlock::ValueBlock(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
+  grid_->setContentsMargins(0, 0, 0, 0);
+  grid_->setHorizontalSpacing(6);
+  grid_->setVerticalSpacing(2);
+}
+
+void ValueBlock::setLines(const std::vector<View::Line>& lines) {
+  const bool same = lines.size() == lines_.size() &&
+                    std::equal(lines.begin(), lines.end(), lines_.begin(),
+                               [](const View::Line& a, const View::Line& b) {
+                                 return a.label == b.label && a.value == b.value && a.unit == b.unit;
+                               });
+  if (same) return;
+  lines_ = lines;
+  while (QLayoutItem* item = grid_->takeAt(0)) {
+    delete item->widget();
+    delete item;
+  }
+  int row = 0;
+  for (const View::Line& l : lines_) {
+    auto* label = new QLabel(QString::fromStdString(l.label));
+    auto* value = new QLabel(QString::fromStdString(l.value));
+    auto* unit = new QLabel(QString::fromStdString(l.unit).trimmed());
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setObjectName(QString::fromStdString(l.label));
+    grid_->addWidget(label, row, 0);
+    grid_->addWidget(value, row, 1);
+    grid_->addWidget(unit, row, 2);
+    ++row;
+  }
+  grid_->setRowStretch(row, 1);
+  grid_->setColumnStretch(2, 1);
+}
+
+QString ValueBlock::valueOf(const QString& label) const {
+  for (const View::Line& l : lines_)
+    if (QString::fromStdString(l.label) == label) return QString::fromStdString(l.value);
+  return {};
+}
+
+SectionBlocks SplitSectionValues(const std::vector<View::Line>& lines) {
+  SectionBlocks b;
+  bool properties = false, capacity = false;
+  for (const View::Line& l : lines) {
+    if (l.label == "Cross Section Class: ") capacity = true;
+    if (l.label == "A =") properties = true;
+    if (capacity)
+      b.capacity.push_back(l);
+    else if (!properties || l.label == "g =" || l.label == "S =")
+      b.dimensions.push_back(l);
+    else
+      b.properties.push_back(l);
+  }
+  return b;
+}
+
+// ---- SectionDialog ----
+
+SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidget* owner)
+    : QDialog(owner), session_(session), family_(family), form_(family.dialog),
+      bindings_(new Bindings(session, this)) {
+  setObjectName(QString::fromStdString(form_));
+  setAttribute(Qt::WA_DeleteOnClose);
+  setModal(false);
+  QString title = QString(family.caption).remove('&').trimmed();
+  setWindowTitle(title);
+
+  auto* grid = new QGridLayout(this);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(6);
+
+  list_ = new QComboBox;
+  list_->setMinimumContentsLength(12);
+  list_->setMaxVisibleItems(24);
+  bindings_->list(list_, key("cbo"));
+
+  // A frame keeps a width of its own when it is empty, and grows with its lines.
+  auto frame = [](const QString& caption, ValueBlock*& block, int width) {
+    auto* g = new QGroupBox(caption);
+    auto* l = new QVBoxLayout(g);
+    block = new ValueBlock;
+    l->addWidget(block);
+    l->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Minimum));
+    return g;
+  };
+  QGroupBox* dims = frame("Dimension && Weight", dimensions_, 150);
+  QGroupBox* props = frame("Section property", properties_, 190);
+  QGroupBox* caps = frame("Capacity", capacity_, 210);
+
+  figureFrame_ = new QGroupBox("Figure not to scale");
+  auto* fl = new QVBoxLayout(figureFrame_);
+  figure_ = new PictureBox(session_, key("pic1"));
+  figure_->setMinimumSize(170, 170);
+  figure_->setToolTip("Click: figure to scale or not");
+  figure_->setSquare(true);
+  bindings_->picture(figure_);
+  fl->addWidget(figure_);
+
+  auto* close = new QPushButton("Close");
+  close->setObjectName("Command1");
+  connect(close, &QPushButton::clicked, this, [this] { this->close(); });
+
+  // The section's name as the family writes it ("HEA 200").
+  auto* name = new QLabel;
+  QFont bold = name->font();
+  bold.setBold(true);
+  name->setFont(bold);
+  bindings_->label(name, key("oname"));
+
+  auto* left = new QVBoxLayout;
+  // The families with several tables choose the table first.
+  std::vector<const char*> tables;
+  if (family.type == 101) tables = {"UB", "UC", "UBP"};
+  if (family.type == 103) tables = {"PFC", "CH"};
+  if (!tables.empty()) {
+    auto* row = new QHBoxLayout;
+    for (size_t k = 0; k < tables.size(); ++k) {
+      auto* option = new QRadioButton(tables[k]);
+      const std::string control = key(("prof" + std::to_string(k + 1)).c_str());
+      bindings_->option(option, control, control, 1);
+      row->addWidget(option);
+    }
+    row->addStretch();
+    left->addLayout(row);
+  }
+  left->addWidget(list_);
+  left->addWidget(name);
+  left->addWidget(dims);
+  left->addWidget(figureFrame_, 1);
+  auto* right = new QVBoxLayout;
+  right->addWidget(caps);
+  right->addStretch();
+  right->addWidget(close, 0, Qt::AlignRight);
+  grid->addLayout(left, 0, 0);
+  grid->addWidget(props, 0, 1);
+  grid->addLayout(right, 0, 2);
+
+  connect(session_, &Session::changed, this, &SectionDialog::refresh);
+  refresh();
+}
+
+void SectionDialog::refresh() {
+  const State& s = session_->state();
+  bindings_->refresh();
+  // The values belong to the family in use; another family's dialog shows none.
+  SectionBlocks blocks;
+  if (s.project.ProfileType == family_.type) blocks = SplitSectionValues(s.view.sectionValues);
+  dimensions_->setLines(blocks.dimensions);
+  properties_->setLines(blocks.properties);
+  capacity_->setLines(blocks.capacity);
+
+  auto caption = s.view.text.find(key("pic1"));
+  figureFrame_->setTitle(caption != s.view.text.end()
+                             ? QString::fromStdString(caption->second)
+                             : (s.project.figureNotToScale != 0 ? "Figure not to scale"
+                                                                : "Figure to scale"));
+}
+
+bool SectionDialog::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate && session_->activated(this)) {
+    const std::string activate = key("Activate");
+    if (Session::knows(activate)) session_->fire(activate);
+  }
+  return QDialog::event(event);
+}
+
+void SectionDialog::closeEvent(QCloseEvent* event) {
+  if (!closing_) {
+    closing_ = true;
+    // Unloading keeps the inputs in the project.
+    const std::string unload = key("Command1");
+    auto& open = session_->state().view.openDialogs;
+    const bool listed = std::find(open.begin(), open.end(), form_) != open.end();
+    if (listed && Session::knows(unload))
+      session_->fire(unload);
+    else if (listed)
+      open.erase(std::remove(open.begin(), open.end(), form_), open.end());
+  }
+  event->accept();
+}
+
+}  // namespace vn::forms
