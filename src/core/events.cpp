@@ -144,7 +144,7 @@ EventResult RunNumericField(State& s, const std::string& self, const NumericFiel
     r.focus = self;
     return r;
   }
-  r.focus = f.enter;
+  r.focus = f.enterFn ? f.enterFn(s) : f.enter;
   if (f.after)
     f.after(s);
   else

@@ -66,6 +66,7 @@ struct NumericField {
   std::string enter;                                // control the Enter key moves to
   std::function<void(State&)> after;                // what runs after a valid value
   bool mismatchMessage = true;                      // false: a mismatch shows nothing
+  std::function<std::string(const State&)> enterFn; // the Enter target where it depends on the state
 };
 
 // The parse step of every numeric field: the typed text as a Single. A text that is no number in

@@ -128,7 +128,13 @@ void RegisterMainFormControls(ControlTable& t) {
   AddNumericField(t, "", "il",
                   {"#0.000", false, [](State& s, double v) { s.project.L = static_cast<Single>(v); },
                    [](const State& s) { return double(s.project.L); },
-                   [](const State&, double v) { return v >= 0.05; }, " L >= 0.050 ", "ibly", nullptr});
+                   [](const State&, double v) { return v >= 0.05; }, " L >= 0.050 ", "ibly", nullptr,
+                   true, [](const State& s) {
+                     // Enter goes on to the buckling factors only while "Column data" is shown.
+                     auto shown = s.view.visible.find("columnframe");
+                     return shown == s.view.visible.end() || shown->second ? std::string("ibly")
+                                                                            : std::string("iproj");
+                   }});
   AddNumericField(t, "", "ibly",
                   {"#0.00", false,
                    [](State& s, double v) { s.project.bucklingFactorY = static_cast<Single>(v); },
@@ -162,8 +168,20 @@ void RegisterMainFormControls(ControlTable& t) {
                    [](const State&, double v) { return v >= 100 && v <= 1500; },
                    "100 <= Deflection <=1500 ", "ch_modal", nullptr});
 
+  // Enter on the spring button confirms the spring value typed in ispring, with a narrower range
+  // than leaving the field: the event's text is that value (no text is a click).
+  const NumericField springByEnter{
+      "#0", true, [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
+      [](const State& s) { return double(s.project.SpringPct); },
+      [](const State&, double v) { return v >= 1 && v <= 99; }, " 1 < springstiffness 99 ", "il",
+      nullptr};
   for (int type = 0; type <= 5; ++type) {
-    AddControl(t, "", "cbutt" + std::to_string(type), [type](State& s, int, std::string_view) {
+    AddControl(t, "", "cbutt" + std::to_string(type), [type, springByEnter](State& s, int, std::string_view text) {
+      if (type == 5 && !text.empty()) {
+        EventResult r = RunNumericField(s, "ispring", springByEnter, text);
+        s.view.text["ispring"] = r.text;
+        return r;
+      }
       OnSupportButton(s, type);
       Recalculate(s);
       EventResult r;

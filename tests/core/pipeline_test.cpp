@@ -341,3 +341,34 @@ TEST(RefreshMainForm, HoldsTheStiffenerDistanceWithinAShorterMember) {
 
 }  // namespace
 }  // namespace vn
+
+namespace vn {
+namespace {
+
+TEST(FieldProtocol, EnterOnTheSpringButtonHasTheNarrowerRange) {
+  State s = test::StartedState();
+  Fire(s, "cbutt5");
+  // Leaving ispring takes 0 and 100; Enter on cbutt5 refuses both with its own text.
+  EXPECT_FALSE(Fire(s, "ispring", "100").refused);
+  EventResult r = Fire(s, "cbutt5", "100");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, " 1 < springstiffness 99 ");
+  EXPECT_EQ(r.focus, "ispring");
+  EXPECT_TRUE(Fire(s, "cbutt5", "0").refused);
+  r = Fire(s, "cbutt5", "99");
+  EXPECT_FALSE(r.refused);
+  EXPECT_EQ(s.project.SpringPct, 99);
+  EXPECT_EQ(s.project.SupportType, 5);
+}
+
+TEST(FieldProtocol, EnterOnTheLengthSkipsTheColumnDataWhenItIsHidden) {
+  State s = test::StartedState();
+  // The default project is in compression: "Column data" shows, Enter goes to ibly.
+  EXPECT_EQ(Fire(s, "il", "6").focus, "ibly");
+  // No axial force: the frame hides at the end of the run, Enter goes back to iproj.
+  Fire(s, "Loading.inn(1)", "0");
+  EXPECT_EQ(Fire(s, "il", "6").focus, "iproj");
+}
+
+}  // namespace
+}  // namespace vn
