@@ -6,11 +6,11 @@ BUILD     ?= build
 ASAN      ?= build-asan
 JOBS      ?= $(shell nproc)
 PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
-             libxlsxwriter-dev qt6-base-dev xvfb xauth
+             libxlsxwriter-dev qt6-base-dev xvfb xauth locales
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test test-sanitize bench clean
+.PHONY: all deps configure build run test test-comma test-sanitize bench clean
 
 all: build
 
@@ -46,6 +46,11 @@ run: build
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+# The whole suite once more where the user's locale writes a decimal comma.
+test-comma: build
+	@locale -a 2>/dev/null | grep -qi '^de_DE.utf-\?8$$' || $(SUDO) localedef -i de_DE -f UTF-8 de_DE.UTF-8
+	cd $(BUILD) && LC_ALL=de_DE.UTF-8 ctest --output-on-failure -j $(JOBS)
 
 # The core tests once more under AddressSanitizer and UndefinedBehaviorSanitizer (without the
 # desktop program: the leak checker would report the libraries' own caches).

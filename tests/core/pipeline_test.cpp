@@ -107,7 +107,7 @@ TEST(CheckedArithmetic, EveryFailedStepIsACalcFault) {
 // ---- The field protocol on the main form ----
 
 TEST(FieldProtocol, ValidValueIsStoredReformattedAndRecalculates) {
-  State s = NewState();
+  State s = test::StartedState();
   int runs = s.recalcCount;
   EventResult r = Fire(s, "il", "6");
   EXPECT_FALSE(r.refused);
