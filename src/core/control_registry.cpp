@@ -14,6 +14,7 @@ void RegisterAllControls(ControlTable& t) {
   RegisterControlsChecks(t);
   RegisterBucklingControls(t);
   RegisterFileMenuControls(t);
+  RegisterDimensionFieldControls(t);
 }
 
 }  // namespace vn

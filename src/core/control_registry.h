@@ -14,6 +14,8 @@ void RegisterResultsControls(ControlTable& t);
 void RegisterControlsChecks(ControlTable& t);
 void RegisterBucklingControls(ControlTable& t);
 
+void RegisterDimensionFieldControls(ControlTable& t);
+
 void RegisterAllControls(ControlTable& t);
 
 }  // namespace vn
