@@ -5,7 +5,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -22,7 +22,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QToolButton>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <tuple>
@@ -134,12 +133,29 @@ const char* const kSupportTips[6] = {
 
 // Menu entries the form handles itself, whether or not the core has a control for them.
 bool FormHandles(const std::string& control) {
-  return control == "mnuexit" || control == "mnuabout" || control == "mnuProfDB";
+  return control == "mnuexit" || control == "mnuabout" || control == "mnuProfDB" ||
+         control == "mnuhelpcont" || control == "mnuhelpsearch" || control == "mnuTheory";
+}
+
+// The help page, copied beside the program into help/.
+QString HelpPagePath(const Session* s) {
+  return QString::fromStdString(s->state().appPath) + QStringLiteral("/help/index.html");
 }
 
 QString TheoryManualPath(const Session* s) {
   return QString::fromStdString(s->state().appPath) +
          QStringLiteral("/Documentation/Varnelt EC3 Theory Manual.pdf");
+}
+
+// Opens a document of the program in the system's viewer; a missing file or a viewer that can't be
+// started is told in a warning box naming the path.
+void OpenDocument(QWidget* parent, const QString& path, const QString& missing) {
+  const QString shown = QDir::toNativeSeparators(path);
+  if (!QFileInfo::exists(path)) {
+    boxes().warning(parent, missing + shown);
+    return;
+  }
+  if (!boxes().openFile(path)) boxes().warning(parent, QStringLiteral("Can't open ") + shown);
 }
 
 }  // namespace
@@ -566,8 +582,7 @@ void MainForm::refresh() {
       caption.replace("&", "&&");
       action->setText(caption);
     }
-    bool enabled = Session::knows(control) || FormHandles(control) ||
-                   (control == "mnuTheory" && QFileInfo::exists(TheoryManualPath(session_)));
+    bool enabled = Session::knows(control) || FormHandles(control);
     if (auto it = v.enabled.find(control); it != v.enabled.end()) enabled = enabled && it->second;
     action->setEnabled(enabled);
   }
@@ -631,8 +646,13 @@ void MainForm::onMenu(const std::string& control) {
     return;
   }
   if (control == "mnuProfDB" && !Session::knows(control)) return;  // no action of its own
-  if (control == "mnuTheory" && !Session::knows(control)) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(TheoryManualPath(session_)));
+  if (control == "mnuhelpcont" || control == "mnuhelpsearch") {
+    // The help page has no search of its own: both entries open it.
+    OpenDocument(this, HelpPagePath(session_), QStringLiteral("Help not found: "));
+    return;
+  }
+  if (control == "mnuTheory") {
+    OpenDocument(this, TheoryManualPath(session_), QStringLiteral("Theory manual not found: "));
     return;
   }
   const QString filter = "Varnelt EC3 (*.vnt);;All files (*)";

@@ -1,7 +1,9 @@
 #include "forms/session.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QMessageBox>
+#include <QUrl>
 
 #include "core/recalculate.h"
 #include "core/startup.h"
@@ -24,6 +26,9 @@ Boxes DefaultBoxes() {
     if (answer == QMessageBox::Yes) return QStringLiteral("Yes");
     if (answer == QMessageBox::No) return QStringLiteral("No");
     return QStringLiteral("Cancel");
+  };
+  b.openFile = [](const QString& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
   };
   return b;
 }

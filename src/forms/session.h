@@ -25,6 +25,9 @@ struct Boxes {
   std::function<void(QWidget* parent, const QString& text)> warning;
   // A question with Yes, No and Cancel; returns "Yes", "No" or "Cancel".
   std::function<QString(QWidget* parent, const QString& text)> question;
+  // Opens a local file in the system's viewer for its type (the help page, the manual); false when
+  // nothing could open it.
+  std::function<bool(const QString& path)> openFile;
 };
 Boxes& boxes();
 // The default boxes again.

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +13,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -35,6 +38,8 @@ class FormsTest : public QObject {
   std::unique_ptr<Session> session;
   std::unique_ptr<MainForm> form;
   QStringList warnings;  // the texts of the warning boxes shown
+  QStringList opened;    // the documents handed to the system's viewer
+  bool viewerWorks = true;
 
   template <class W>
   W* control(const char* name) {
@@ -61,6 +66,13 @@ class FormsTest : public QObject {
   void init() {
     warnings.clear();
     boxes().warning = [this](QWidget*, const QString& text) { warnings << text; };
+    // No viewer is started by a test: the paths asked for are noted instead.
+    opened.clear();
+    viewerWorks = true;
+    boxes().openFile = [this](const QString& path) {
+      opened << path;
+      return viewerWorks;
+    };
     session = std::make_unique<Session>();
     session->start(VARNELT_BIN_DIR, false);
     form = std::make_unique<MainForm>(session.get());
@@ -506,6 +518,58 @@ class FormsTest : public QObject {
       d->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/p04-to-scale.png");
       form->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/main-ipe.png");
     }
+  }
+
+  // ---- the Help menu ----
+
+  void helpPageLiesBesideTheProgram() {
+    QFile page(QStringLiteral(VARNELT_BIN_DIR "/help/index.html"));
+    QVERIFY2(page.open(QIODevice::ReadOnly), "bin/help/index.html was not copied beside the program");
+    const QString html = QString::fromUtf8(page.readAll());
+    QVERIFY(html.contains("<html"));
+    // The page stands alone: nothing is fetched from elsewhere.
+    QVERIFY(!html.contains("http://") && !html.contains("https://") && !html.contains("src="));
+  }
+
+  void helpEntriesAreEnabledAndOpenThePage() {
+    for (const char* name : {"mnuhelpcont", "mnuhelpsearch", "mnuTheory"})
+      QVERIFY2(form->menuAction(name)->isEnabled(), name);
+    const QString page = QStringLiteral(VARNELT_BIN_DIR "/help/index.html");
+    form->menuAction("mnuhelpcont")->trigger();
+    form->menuAction("mnuhelpsearch")->trigger();
+    QCOMPARE(opened, (QStringList{page, page}));
+    QVERIFY(warnings.isEmpty());
+  }
+
+  void missingHelpAndManualAreToldWithTheirPaths() {
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    session->state().appPath = dir.path().toStdString();
+    const QString manual = dir.path() + "/Documentation/Varnelt EC3 Theory Manual.pdf";
+    form->menuAction("mnuhelpcont")->trigger();
+    form->menuAction("mnuTheory")->trigger();
+    QVERIFY(opened.isEmpty());
+    QCOMPARE(warnings,
+             (QStringList{"Help not found: " + QDir::toNativeSeparators(dir.path() + "/help/index.html"),
+                          "Theory manual not found: " + QDir::toNativeSeparators(manual)}));
+  }
+
+  void theoryManualOpensWhereItIsInstalled() {
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    QVERIFY(QDir(dir.path()).mkdir("Documentation"));
+    const QString manual = dir.path() + "/Documentation/Varnelt EC3 Theory Manual.pdf";
+    QFile pdf(manual);
+    QVERIFY(pdf.open(QIODevice::WriteOnly));
+    pdf.close();
+    session->state().appPath = dir.path().toStdString();
+    form->menuAction("mnuTheory")->trigger();
+    QCOMPARE(opened, QStringList{manual});
+    QVERIFY(warnings.isEmpty());
+    // A viewer that can't be started is told too.
+    viewerWorks = false;
+    form->menuAction("mnuTheory")->trigger();
+    QCOMPARE(warnings, QStringList{"Can't open " + QDir::toNativeSeparators(manual)});
   }
 };
 
