@@ -17,6 +17,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <cmath>
+#include <functional>
 
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
@@ -445,17 +446,21 @@ FormDialog* EndForceDialog(Session* s, QWidget* owner) {
 
 // ---- Buckling length factors ----
 
-QIcon BucklingCaseIcon(int picture) {
-  const QSize size(30, 60);
+// A small picture drawn on the canvas, at twice the pixels for sharp high-DPI screens.
+QIcon CanvasIcon(QSize size, const std::function<void(draw::Canvas&)>& paint) {
   QPixmap pm(size * 2);
   pm.setDevicePixelRatio(2);
   pm.fill(Qt::transparent);
   QPainter p(&pm);
   p.setRenderHint(QPainter::Antialiasing);
   PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
-  DrawBucklingCaseIcon(canvas, picture);
+  paint(canvas);
   p.end();
   return QIcon(pm);
+}
+
+QIcon BucklingCaseIcon(int picture) {
+  return CanvasIcon(QSize(30, 60), [picture](draw::Canvas& c) { DrawBucklingCaseIcon(c, picture); });
 }
 
 FormDialog* BucklingDialog(Session* s, QWidget* owner, bool yAxis) {
@@ -655,19 +660,12 @@ FormDialog* EndStiffenerDialog(Session* s, QWidget* owner) {
 // ---- Lateral torsional buckling ----
 
 QIcon LoadLevelIcon(int level) {
-  const QSize size(28, 28);
-  QPixmap pm(size * 2);
-  pm.setDevicePixelRatio(2);
-  pm.fill(Qt::transparent);
-  QPainter p(&pm);
-  p.setRenderHint(QPainter::Antialiasing);
-  PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
-  draw::Drawing drawing;
-  draw::RecordingCanvas record(drawing);
-  DrawLoadLevelPicture(record, level, false);
-  draw::Replay(drawing, canvas);
-  p.end();
-  return QIcon(pm);
+  return CanvasIcon(QSize(28, 28), [level](draw::Canvas& c) {
+    draw::Drawing drawing;
+    draw::RecordingCanvas record(drawing);
+    DrawLoadLevelPicture(record, level, false);
+    draw::Replay(drawing, c);
+  });
 }
 
 FormDialog* LtbDialog(Session* s, QWidget* owner) {

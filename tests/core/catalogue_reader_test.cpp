@@ -8,26 +8,16 @@
 #include <vector>
 
 #include "sections/catalogue.h"
+#include "support/test_support.h"
 
 namespace vn {
 namespace {
 
-namespace fs = std::filesystem;
-
 class CatalogueReader : public ::testing::Test {
  protected:
-  void SetUp() override {
-    dir_ = fs::temp_directory_path() /
-           ("vn_cat_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "_" +
-            ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-
   // Writes `rows` rows of K values; value of row r, column k (1-based) is r * 100 + k + 0.5.
   void Write(const char* file, int rows, int k) {
-    std::ofstream out(dir_ / file, std::ios::binary);
+    std::ofstream out(folder_.Dir() / file, std::ios::binary);
     for (int r = 0; r < rows; ++r)
       for (int c = 1; c <= k; ++c) {
         float v = static_cast<float>(r * 100 + c) + 0.5f;
@@ -39,12 +29,12 @@ class CatalogueReader : public ::testing::Test {
       }
   }
 
-  fs::path dir_;
+  test::TempFolder folder_;
 };
 
 TEST_F(CatalogueReader, MissingFileLeavesZerosAndListShowsThePrefixWithZeros) {
   Catalogues c;
-  LoadProfileCatalogues(c, dir_.string());
+  LoadProfileCatalogues(c, folder_.Path());
   std::vector<std::string> items = CatalogueList(c, catHea);
   ASSERT_EQ(items.size(), 24u);
   for (const std::string& item : items) EXPECT_EQ(item, "HEA0");
@@ -55,7 +45,7 @@ TEST_F(CatalogueReader, MissingFileLeavesZerosAndListShowsThePrefixWithZeros) {
 TEST_F(CatalogueReader, FullFileFillsColumnsOneToKAndLeavesColumnZeroEmpty) {
   Write("hea.dat", 24, 11);
   Catalogue t;
-  ReadCatalogue(t, catHea, dir_.string());
+  ReadCatalogue(t, catHea, folder_.Path());
   EXPECT_EQ(t.at(0, 0), 0.0f);
   EXPECT_EQ(t.at(0, 1), 1.5f);
   EXPECT_EQ(t.at(23, 11), 2311.5f);
@@ -67,7 +57,7 @@ TEST_F(CatalogueReader, FullFileFillsColumnsOneToKAndLeavesColumnZeroEmpty) {
 TEST_F(CatalogueReader, ShortFileLeavesZerosBeyondItsEnd) {
   Write("ipe.dat", 3, 10);
   Catalogue t;
-  ReadCatalogue(t, catIpe, dir_.string());
+  ReadCatalogue(t, catIpe, folder_.Path());
   EXPECT_EQ(t.at(2, 10), 210.5f);
   EXPECT_EQ(t.at(3, 1), 0.0f);
 }
@@ -75,7 +65,7 @@ TEST_F(CatalogueReader, ShortFileLeavesZerosBeyondItsEnd) {
 TEST_F(CatalogueReader, LongFileIsReadToTheFixedRowCountOnly) {
   Write("l3.dat", 13, 6);  // two rows more than the reader takes
   Catalogue t;
-  ReadCatalogue(t, catL3, dir_.string());
+  ReadCatalogue(t, catL3, folder_.Path());
   EXPECT_EQ(t.at(10, 1), 1001.5f);
   EXPECT_EQ(t.at(11, 1), 0.0f);  // table row 11 exists but is never read
   EXPECT_EQ(t.at(12, 6), 0.0f);
@@ -84,7 +74,7 @@ TEST_F(CatalogueReader, LongFileIsReadToTheFixedRowCountOnly) {
 TEST_F(CatalogueReader, UbpTakesEighteenRowsFromAFileOfEightyOne) {
   Write("ubp.dat", 81, 19);
   Catalogues c;
-  LoadProfileCatalogues(c, dir_.string());
+  LoadProfileCatalogues(c, folder_.Path());
   EXPECT_EQ(c.table[catUbp].at(17, 19), 1719.5f);
   EXPECT_THROW(c.table[catUbp].at(18, 1), CalcFault);
   EXPECT_EQ(CatalogueList(c, catUbp).size(), 18u);
@@ -103,7 +93,7 @@ TEST_F(CatalogueReader, ListTextsFollowTheFamilyRule) {
   Write("ub.dat", 1, 19);
   Write("ch.dat", 1, 22);
   Catalogues c;
-  LoadProfileCatalogues(c, dir_.string());
+  LoadProfileCatalogues(c, folder_.Path());
   // Row 0 holds 1.5, 2.5, 3.5, 4.5 ... in columns 1, 2, 3, 4.
   EXPECT_EQ(CatalogueListText(c, catHea, 0), "HEA1.5");
   EXPECT_EQ(CatalogueListText(c, catShs, 0), "RHS 1.5x1.5x2.5");

@@ -11,6 +11,7 @@
 #include "core/project_file.h"
 #include "core/recalculate.h"
 #include "core/state.h"
+#include "support/test_support.h"
 
 namespace vn {
 namespace {
@@ -19,15 +20,8 @@ namespace fs = std::filesystem;
 
 class ProjectFile : public ::testing::Test {
  protected:
-  void SetUp() override {
-    dir_ = fs::temp_directory_path() /
-           (std::string("vn_prj_") + ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
-    NewProject(s_);
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-  std::string Path(const char* name) const { return (dir_ / name).string(); }
+  void SetUp() override { NewProject(s_); }
+  std::string Path(const char* name) const { return folder_.Path(name); }
   static std::string Slurp(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     std::ostringstream o;
@@ -40,7 +34,7 @@ class ProjectFile : public ::testing::Test {
     return json.substr(0, json.find("\"Section\":"));
   }
 
-  fs::path dir_;
+  test::TempFolder folder_;
   State s_;
 };
 
@@ -288,10 +282,10 @@ TEST_F(ProjectFile, AMissingFileIsNamedAndChangesNothing) {
 TEST_F(ProjectFile, AFailedSaveLeavesThePreviousFileWhole) {
   ASSERT_EQ(WriteProject(s_, Path("keep.vnt")), FileResult::Ok);
   std::string before = Slurp(Path("keep.vnt"));
-  EXPECT_EQ(WriteProject(s_, (dir_ / "nodir" / "x.vnt").string()), FileResult::NotFound);
-  s_.project.fileName = (dir_ / "nodir" / "x.vnt").string();
+  EXPECT_EQ(WriteProject(s_, (folder_.Dir() / "nodir" / "x.vnt").string()), FileResult::NotFound);
+  s_.project.fileName = (folder_.Dir() / "nodir" / "x.vnt").string();
   EventResult r = SaveAction(s_, "");
-  EXPECT_EQ(r.message, "can't save file - " + (dir_ / "nodir" / "x.vnt").string());
+  EXPECT_EQ(r.message, "can't save file - " + (folder_.Dir() / "nodir" / "x.vnt").string());
   EXPECT_EQ(Slurp(Path("keep.vnt")), before);
   EXPECT_FALSE(fs::exists(Path("keep.vnt.tmp~")));
 }

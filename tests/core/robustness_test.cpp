@@ -17,8 +17,6 @@
 namespace vn {
 namespace {
 
-namespace fs = std::filesystem;
-
 std::vector<std::string> ControlNamesWithSlot() {
   std::vector<std::string> names;
   for (std::string n : Controls().Names()) {
@@ -62,9 +60,8 @@ TEST(Robustness, DamagedProjectFilesNeverCrashTheReaderOrTheNextRun) {
   State original = test::StartedState();
   original.project.projectName = "Base, \"project\"";
   const std::string text = ProjectFileText(original);
-  const fs::path dir = fs::temp_directory_path() / "vn_robust";
-  fs::create_directories(dir);
-  const std::string path = (dir / "damaged.vnt").string();
+  test::TempFolder folder;
+  const std::string path = folder.Path("damaged.vnt");
   std::mt19937 rng(42);
   for (int trial = 0; trial < 300; ++trial) {
     std::string damaged = text;
@@ -93,7 +90,6 @@ TEST(Robustness, DamagedProjectFilesNeverCrashTheReaderOrTheNextRun) {
     EXPECT_NO_THROW(RefreshMainForm(s)) << "trial " << trial;
     EXPECT_NO_THROW(Recalculate(s)) << "trial " << trial;
   }
-  fs::remove_all(dir);
 }
 
 }  // namespace

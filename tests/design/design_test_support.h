@@ -7,40 +7,9 @@
 #include <string>
 
 #include "core/state.h"
+#include "support/test_support.h"
 
 namespace vn::test {
-
-// A fresh folder under the system's temporary folder, removed again at the end of the test.
-class TempFolder {
- public:
-  TempFolder() {
-    std::random_device rd;
-    path_ = std::filesystem::temp_directory_path() /
-            ("varnelt-design-" + std::to_string(rd()) + "-" + std::to_string(rd()));
-    std::filesystem::create_directories(path_);
-  }
-  ~TempFolder() {
-    std::error_code ec;
-    std::filesystem::remove_all(path_, ec);
-  }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-
-  std::string Path() const { return path_.string(); }
-
-  void Write(const std::string& name, const std::string& content) const {
-    std::ofstream out(path_ / name, std::ios::binary);
-    out << content;
-  }
-  std::string Read(const std::string& name) const {
-    std::ifstream in(path_ / name, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-  }
-  bool Exists(const std::string& name) const { return std::filesystem::exists(path_ / name); }
-
- private:
-  std::filesystem::path path_;
-};
 
 // A grade table as the delivered file has it: tab-separated, the user row last.
 inline const char* const kGradeFile =

@@ -2,8 +2,6 @@
 // written whole or not at all.
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +12,7 @@
 #include "core/state.h"
 #include "export/spreadsheet_export.h"
 #include "results/detail_table.h"
+#include "support/test_support.h"
 
 namespace vn {
 namespace {
@@ -23,23 +22,14 @@ namespace fs = std::filesystem;
 // A fresh folder of its own for each test, removed afterwards.
 class ExportFiles : public ::testing::Test {
  protected:
-  void SetUp() override {
-    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir_ = fs::temp_directory_path() /
-           ("varnelt-export-" + std::to_string(getpid()) + "-" + info->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_);
-  }
-  void TearDown() override { fs::remove_all(dir_); }
-
-  std::string Path(const std::string& name) const { return (dir_ / name).string(); }
+  std::string Path(const std::string& name) const { return folder_.Path(name); }
   int FilesInFolder() const {
     int n = 0;
-    for ([[maybe_unused]] const auto& e : fs::directory_iterator(dir_)) ++n;
+    for ([[maybe_unused]] const auto& e : fs::directory_iterator(folder_.Dir())) ++n;
     return n;
   }
 
-  fs::path dir_;
+  test::TempFolder folder_;
 };
 
 std::string ReadFile(const std::string& path) {
