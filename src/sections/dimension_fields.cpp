@@ -11,6 +11,7 @@
 #include "core/pipeline.h"
 #include "core/recalculate.h"
 #include "core/state.h"
+#include "sections/section_dialogs.h"
 
 namespace vn {
 
@@ -194,6 +195,7 @@ std::vector<DimensionField> BuildTable() {
 // Leaving a dimension field: parse, store, show, test the limits; a failed limit keeps the user in
 // the field without a recalculation.
 EventResult LeaveDimensionField(State& s, const DimensionField& f, std::string_view text) {
+  EnsureSectionDialogActive(s, f.form);
   const std::string self = std::string(f.form) + "." + f.field;
   EventResult r;
   Single typed = 0;
@@ -224,11 +226,24 @@ EventResult LeaveDimensionField(State& s, const DimensionField& f, std::string_v
   return r;
 }
 
+const std::vector<DimensionField>& Table() {
+  static const std::vector<DimensionField> table = BuildTable();
+  return table;
+}
+
 }  // namespace
 
+void ShowDimensionFields(State& s, std::string_view form) {
+  for (const DimensionField& f : Table()) {
+    if (form != f.form) continue;
+    const double v = f.single ? static_cast<double>(f.single(s)) : f.number(s);
+    s.view.text[std::string(f.form) + "." + f.field] =
+        FormatNumber(v, f.thickness ? "##0.0" : "##0", s.decimalComma);
+  }
+}
+
 void RegisterDimensionFieldControls(ControlTable& t) {
-  static const std::vector<DimensionField> table = BuildTable();
-  for (const DimensionField& f : table) {
+  for (const DimensionField& f : Table()) {
     AddControl(t, f.form, f.field,
                [&f](State& s, int, std::string_view text) { return LeaveDimensionField(s, f, text); });
   }

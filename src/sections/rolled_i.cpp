@@ -113,6 +113,14 @@ CatalogueId CatalogueOfType(const State& s, int profileType) {
     case 3: return catHem;
     case 4: return catIpe;
     case 5: return catUpe;
+    case 6: return catShs;
+    case 7: return catRhs;
+    case 8: return catCfshs;
+    case 9: return catCfrhs;
+    case 10: return catL1;
+    case 11: return catL2;
+    case 52: return catL3;
+    case 54: return catHp;
     case 15: return catInp;
     case 16: return catUnp;
     case 101:

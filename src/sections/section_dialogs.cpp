@@ -14,7 +14,7 @@ namespace vn {
 
 namespace {
 
-constexpr std::array<SectionDialogInfo, 10> kDialogs{{
+constexpr std::array<SectionDialogInfo, 31> kDialogs{{
     {1, "p01", "mnup01", "p01i", "HEA"},
     {2, "p02", "mnup02", "p02i", "HEB"},
     {3, "p03", "mnup03", "p03i", "HEM"},
@@ -22,6 +22,27 @@ constexpr std::array<SectionDialogInfo, 10> kDialogs{{
     {15, "p15", "mnup15", "p15i", "INP"},
     {5, "p05", "mnup05", "p05i", nullptr},
     {16, "p16", "mnup16", "p16i", nullptr},
+    {6, "p06", "mnup06", "p06i", nullptr},
+    {7, "p07", "mnup07", "p07i", nullptr},
+    {8, "p08", "mnup08", "p08i", nullptr},
+    {9, "p09", "mnup09", "p09i", nullptr},
+    {10, "p10", "mnup10", "p10i", nullptr},
+    {11, "p11", "mnup11", "p11i", "L-unequal"},
+    {21, "p21", "mnup21", "p21i", nullptr},
+    {22, "p22", "mnup22", "p22i", nullptr},
+    {26, "p26", "mnu26", "p26i", nullptr},
+    {23, "p23", "mnup23", "p23i", nullptr},
+    {27, "p27", "mnup27", "p27i", nullptr},
+    {24, "p24", "mnup24", "p24i", nullptr},
+    {25, "p25", "mnup25", "p25i", nullptr},
+    {56, "p56", "mnuplateTg", "p56i", nullptr},
+    {52, "p52", "mnuplateLr", "p52i", nullptr},
+    {53, "p53", "mnuplateLweld", "p53i", nullptr},
+    {54, "p54", "mnuplateBf", "Command2", nullptr},
+    {51, "p51", "mnuplateFb", "p51i", nullptr},
+    {31, "p31", "mnup31", "p31i", nullptr},
+    {28, "p28", "mnup28", "p28i", nullptr},
+    {41, "p41", "mnup41", "p41i", nullptr},
     {101, "p101", "mnuu", "p101i", "U"},
     {102, "p102", "mnuj", "p102i", "J"},
     {103, "p103", "mnuc", "p103i", "U"},  // "U" for the channels too
@@ -46,6 +67,7 @@ bool IsOpen(const State& s, const SectionDialogInfo& d) {
 
 void Load(State& s, const SectionDialogInfo& d) {
   FillSectionList(s, d);
+  ShowDimensionFields(s, d.form);
   if (d.name) s.project.profileName = d.name;
   if (!IsOpen(s, d)) s.view.openDialogs.push_back(d.form);
 }
@@ -78,6 +100,7 @@ void EnsureActive(State& s, const SectionDialogInfo& d) {
 void OpenFromMenu(State& s, const SectionDialogInfo& d) {
   s.project.ProfileType = static_cast<Integer>(d.type);
   if (d.name) s.project.profileName = d.name;
+  if (d.type == 41) s.project.figureNotToScale = 1;  // the general section has no outline to draw
   if (!IsOpen(s, d)) Load(s, d);
   Activate(s, d);
 }
@@ -129,6 +152,27 @@ const SectionDialogInfo* SectionDialogOfType(int type) {
   for (const SectionDialogInfo& d : kDialogs)
     if (d.type == type) return &d;
   return nullptr;
+}
+
+const SectionDialogInfo* SectionDialogOfForm(std::string_view form) {
+  for (const SectionDialogInfo& d : kDialogs)
+    if (form == d.form) return &d;
+  return nullptr;
+}
+
+void EnsureSectionDialogActive(State& s, std::string_view form) {
+  if (const SectionDialogInfo* d = SectionDialogOfForm(form)) EnsureActive(s, *d);
+}
+
+void AddSectionDialogOption(ControlTable& t, const char* form, const std::string& control,
+                            std::function<void(State&)> set) {
+  AddControl(t, form, control, [form, set](State& s, int, std::string_view) {
+    EnsureSectionDialogActive(s, form);
+    set(s);
+    Recalculate(s);
+    ShowSectionValues(s);
+    return EventResult{};
+  });
 }
 
 std::string FigureCaption(const State& s) {

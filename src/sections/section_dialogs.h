@@ -1,4 +1,4 @@
-// The section dialogs of the catalogue families: one protocol driven by a table of family data.
+// The section dialogs of every family: one protocol driven by a table of family data.
 //   menu entry / picture button: ProfileType and profileName, then the dialog opens (Load, Activate)
 //   Load: the list of the family's table, the short name
 //   Activate: the figure's caption, ProfileType, Recalculate, ShowSectionValues, the figure
@@ -7,7 +7,9 @@
 //   pic1: figure to scale or not; Command1: close
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "sections/catalogue.h"
 
@@ -24,8 +26,21 @@ struct SectionDialogInfo {
   const char* name;     // profileName the family sets; nullptr leaves it unchanged
 };
 
-// The dialog of a catalogue family of this unit, or nullptr.
+// The dialog of a family, or nullptr.
 const SectionDialogInfo* SectionDialogOfType(int type);
+const SectionDialogInfo* SectionDialogOfForm(std::string_view form);
+
+// A control of a dialog is reached only with the dialog open and in front: opens it (Load,
+// Activate) or brings it to the front (Activate) when another family is shown.
+void EnsureSectionDialogActive(State& s, std::string_view form);
+
+// An option or check box of a section dialog ("p23.oweld1"): the dialog in front, the value set by
+// `set`, then Recalculate and ShowSectionValues.
+void AddSectionDialogOption(ControlTable& t, const char* form, const std::string& control,
+                            std::function<void(State&)> set);
+
+// The typed dimensions of a dimension dialog written into its fields ("##0", "##0.0").
+void ShowDimensionFields(State& s, std::string_view form);
 
 // Fills the dialog's list with the rows of the family's table and selects the family's row.
 void FillSectionList(State& s, const SectionDialogInfo& d);

@@ -10,6 +10,9 @@ namespace {
 
 TEST(DimensionFields, AFailedLimitStoresTheValueKeepsTheFocusAndDoesNotRecalculate) {
   State s = test::StartedState();
+  Fire(s, "mnup21");  // the field is reached with its dialog open
+  EXPECT_EQ(s.project.ProfileType, 21);
+  EXPECT_EQ(s.view.text["p21.isth"], "600");  // the dialog shows the stored dimensions
   const int runs = s.recalcCount;
   EventResult r = Fire(s, "p21.isth", "19");
   EXPECT_TRUE(r.refused);
