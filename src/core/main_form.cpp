@@ -250,16 +250,27 @@ void RegisterMainFormControls(ControlTable& t) {
   });
 
   // The dialog about the program.
-  AddControl(t, "", "mnuabout", [](State& s, int, std::string_view) {
-    auto& open = s.view.openDialogs;
-    if (!DialogOpen(s.view, "about")) open.push_back("about");
-    return EventResult{};
-  });
-  AddControl(t, "about", "ok", [](State& s, int, std::string_view) {
-    auto& open = s.view.openDialogs;
-    open.erase(std::remove(open.begin(), open.end(), "about"), open.end());
-    return EventResult{};
-  });
+  // The information forms: opened by a button or a picture, closed by a click on them.
+  auto info = [&t](const char* form, const char* opener) {
+    std::string openerForm, openerControl = opener;
+    if (auto dot = openerControl.find('.'); dot != std::string::npos) {
+      openerForm = openerControl.substr(0, dot);
+      openerControl = openerControl.substr(dot + 1);
+    }
+    AddControl(t, openerForm, openerControl, [form](State& s, int, std::string_view) {
+      if (!DialogOpen(s.view, form)) s.view.openDialogs.push_back(form);
+      return EventResult{};
+    });
+    AddControl(t, form, "ok", [form](State& s, int, std::string_view) {
+      auto& open = s.view.openDialogs;
+      open.erase(std::remove(open.begin(), open.end(), form), open.end());
+      return EventResult{};
+    });
+  };
+  info("about", "mnuabout");
+  info("InfoVARNELT", "Picture");
+  info("InfoULS", "setup.cmdULS");
+  info("InfoPsi", "setup.cmdPsi");
 
 }
 

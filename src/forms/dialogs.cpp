@@ -204,6 +204,7 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   ps->addWidget(new QLabel("Q2 ="), 1, 0);
   ps->addWidget(List(d, "Cbo_Q2_Psi2", 4), 1, 1);
   ps->addWidget(new QLabel("Secondary "), 1, 2);
+  ps->addWidget(Button(d, "cmdPsi", "Psi-factors..."), 0, 3, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
   ps->setColumnStretch(3, 1);
   co->addWidget(psi);
   auto* uls = Group("ULS/SLS Loadfactors", "setup.frULS");
@@ -216,6 +217,7 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   ul->addWidget(new QLabel("SLS"), 2, 0);
   for (int r = 0; r < 2; ++r)
     for (int c = 0; c < 3; ++c) ul->addWidget(NumberField(d, fields[r][c], 48), r + 1, c + 1, Qt::AlignCenter);
+  ul->addWidget(Button(d, "cmdULS", "Partial factors..."), 3, 1, 1, 3, Qt::AlignRight);
   co->addWidget(uls);
   co->addStretch();
 
@@ -618,6 +620,45 @@ FormDialog* PsiDialog(Session* s, QWidget* owner) {
   return d;
 }
 
+// The load factors of the offshore standard that the ULS/SLS frame refers to.
+FormDialog* UlsDialog(Session* s, QWidget* owner) {
+  auto* d = new FormDialog(s, "InfoULS", "Partial Factors ref DNV-OS-C101", owner);
+  auto* main = new QVBoxLayout(d);
+  main->addWidget(new QLabel(
+      "<b>Load factors &gamma;f for ULS</b>"
+      "<table cellspacing=0 cellpadding=3>"
+      "<tr><th align=left>Combination of design loads</th><th>G</th><th>Q</th><th>E</th><th>D</th></tr>"
+      "<tr><td>a)</td><td>1.3</td><td>1.3</td><td>0.7</td><td>1.0</td></tr>"
+      "<tr><td>b)</td><td>1.0</td><td>1.0</td><td>1.3</td><td>1.0</td></tr>"
+      "</table>"));
+  main->addWidget(Note("G permanent loads, Q variable functional loads, E environmental loads, "
+                       "D deformation loads.\nWhere a permanent load G causes a favourable load effect, "
+                       "its factor is 1.0 in combination a).\nSLS: all load factors 1.0."));
+  main->addLayout(Foot({}, d->closeButton()));
+  return d;
+}
+
+// What the program is and where it reads its tables from.
+FormDialog* ProgramInfoDialog(Session* s, QWidget* owner) {
+  auto* d = new FormDialog(s, "InfoVARNELT", "Varnelt EC3", owner);
+  auto* main = new QVBoxLayout(d);
+  auto* title = new QLabel("Varnelt EC3");
+  QFont f = title->font();
+  f.setPointSizeF(f.pointSizeF() * 1.8);
+  f.setBold(true);
+  title->setFont(f);
+  main->addWidget(title);
+  const State& st = s->state();
+  main->addWidget(new QLabel(QString(
+      "Design of one steel member, beam or column, to EN 1993-1-1, EN 1993-1-5 and EN 1990.\n\n"
+      "Sections: 31 families, rolled, welded, hollow, angles, channels, plates and British tables.\n"
+      "Every input recalculates the member at once; the governing ratio, its formula and\n"
+      "its clause stand in the Results frame, the full set under More Results.\n\n"
+      "Profile tables, steel grades and setup are read from:\n%1").arg(QString::fromStdString(st.appPath))));
+  main->addLayout(Foot({}, d->closeButton()));
+  return d;
+}
+
 // ---- End supports and web stiffeners ----
 
 FormDialog* EndStiffenerDialog(Session* s, QWidget* owner) {
@@ -816,6 +857,8 @@ FormDialog* CreateFormDialog(Session* session, const std::string& name, QWidget*
   if (name == "Modal_ns") return ModalDialog(session, owner);
   if (name == "about") return AboutDialog(session, owner);
   if (name == "InfoPsi") return PsiDialog(session, owner);
+  if (name == "InfoULS") return UlsDialog(session, owner);
+  if (name == "InfoVARNELT") return ProgramInfoDialog(session, owner);
   if (name == "endstiff") return EndStiffenerDialog(session, owner);
   if (name == "vipping") return LtbDialog(session, owner);
   if (name == "detailedresult") return DetailDialog(session, owner);

@@ -21,6 +21,7 @@
 #include <QTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -33,6 +34,7 @@
 #include "forms/profiles.h"
 #include "forms/section_dialog.h"
 #include "forms/session.h"
+#include "graphics/section_figure.h"
 #include "graphics/support_symbols.h"
 #include "results/summary.h"
 
@@ -164,6 +166,7 @@ MainForm::MainForm(Session* session, QWidget* parent)
     : QMainWindow(parent), session_(session), bindings_(new Bindings(session, this)) {
   setObjectName("frmMain");
   buildMenus();
+  buildSectionButtons();
   buildForm();
   resize(startSize());
   connect(session_, &Session::changed, this, &MainForm::refresh);
@@ -270,12 +273,69 @@ void MainForm::buildMenus() {
   addEntry(help, "mnuabout", "&About Varnelt - EC3");
 }
 
+// The row of section buttons under the menu: one small picture of each family, in the order and
+// groups of the Profiles menu, and the program's picture at the end.
+void MainForm::buildSectionButtons() {
+  auto* row = new QToolBar("Sections", this);
+  row->setObjectName("sectionButtons");
+  row->setMovable(false);
+  row->setFloatable(false);
+  row->setIconSize(QSize(18, 18));
+  row->setContextMenuPolicy(Qt::PreventContextMenu);
+  addToolBar(Qt::TopToolBarArea, row);
+  const State& s = session_->state();
+  for (const ProfileEntry& e : kProfiles) {
+    if (e.separatorBefore) row->addSeparator();
+    const QSize size(18, 18);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap pm(size * ratio);
+    pm.setDevicePixelRatio(ratio);
+    pm.fill(Qt::transparent);
+    {
+      QPainter p(&pm);
+      p.setRenderHint(QPainter::Antialiasing);
+      PainterCanvas canvas(p, QRectF(QPointF(1, 1), QSizeF(16, 16)));
+      if (e.type == 41) {
+        // The general section has no shape of its own: its values are typed.
+        QFont f = p.font();
+        f.setBold(true);
+        f.setPixelSize(12);
+        p.setFont(f);
+        p.drawText(QRectF(0, 0, 18, 18), Qt::AlignCenter, "A,I");
+      } else {
+        try {
+          DrawStockSection(canvas, s, e.type, false);
+        } catch (const std::exception&) {
+        }
+      }
+    }
+    const std::string control = ButtonOf(e);
+    QAction* a = row->addAction(QIcon(pm), QString(e.caption).remove('&').trimmed());
+    a->setObjectName(QString::fromStdString(control));
+    connect(a, &QAction::triggered, this, [this, control] { session_->fireAndTell(this, control); });
+  }
+  auto* spacer = new QWidget;
+  spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  row->addWidget(spacer);
+  auto* picture = new QToolButton;
+  picture->setObjectName("Picture");
+  picture->setText("Varnelt EC3");
+  picture->setToolTip("About the program and its data files");
+  QFont f = picture->font();
+  f.setBold(true);
+  f.setItalic(true);
+  picture->setFont(f);
+  picture->setAutoRaise(true);
+  connect(picture, &QToolButton::clicked, this, [this] { session_->fireAndTell(this, "Picture"); });
+  row->addWidget(picture);
+}
+
 void MainForm::buildForm() {
   auto* central = new QWidget(this);
   central->setObjectName("central");
   setCentralWidget(central);
   auto* grid = new QGridLayout(central);
-  grid->setContentsMargins(8, 4, 8, 8);
+  grid->setContentsMargins(8, 2, 8, 4);
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(6);
   Bindings& b = *bindings_;
@@ -283,7 +343,7 @@ void MainForm::buildForm() {
   // ---- Input ----
   auto* fr1 = Frame("Input", "fr1");
   auto* input = Inside<QVBoxLayout>(fr1);
-  input->setSpacing(4);
+  input->setSpacing(2);
 
   auto* names = new QFormLayout;
   names->setHorizontalSpacing(6);
@@ -553,7 +613,7 @@ void MainForm::buildForm() {
 
   // ---- Arrangement: input and calculation data at the left, charts, results at the foot ----
   auto* left = new QVBoxLayout;
-  left->setSpacing(6);
+  left->setSpacing(2);
   left->addWidget(fr1, 1);
   left->addWidget(calc);
   fr1->setFixedWidth(300);

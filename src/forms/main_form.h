@@ -51,6 +51,7 @@ class MainForm : public QMainWindow {
 
  private:
   void buildMenus();
+  void buildSectionButtons();
   void buildForm();
   void onMenu(const std::string& control);
   void syncDialogs();

@@ -55,6 +55,12 @@ inline constexpr ProfileEntry kProfiles[] = {
 inline constexpr const char* kBritishLabel = "British profiles";
 inline constexpr const char* kBritishLabelControl = "mnup100";
 
+// The picture button of the main form that opens the family's dialog: "p04i", and "Command2" for
+// the plate with a bulb flat.
+inline std::string ButtonOf(const ProfileEntry& e) {
+  return e.type == 54 ? std::string("Command2") : std::string(e.dialog) + "i";
+}
+
 // The entry of a dialog ("p04"), or nullptr.
 inline const ProfileEntry* ProfileOfDialog(const std::string& dialog) {
   for (const ProfileEntry& e : kProfiles)

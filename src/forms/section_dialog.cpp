@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -13,6 +14,7 @@
 #include "forms/bindings.h"
 #include "forms/picture_box.h"
 #include "forms/session.h"
+#include "sections/section_dialogs.h"
 
 namespace vn::forms {
 
@@ -75,6 +77,68 @@ SectionBlocks SplitSectionValues(const std::vector<View::Line>& lines) {
   }
   return b;
 }
+
+// ---- The typed dimensions and options ----
+
+namespace {
+
+// The caption of a typed dimension, from its field's name: "isttf1" is "tf1 =".
+QString FieldCaption(const std::string& field) {
+  static const std::pair<const char*, const char*> named[] = {
+      {"iload", "Max loading on one flange (%):"},
+      {"istax", "A ="},        {"istay", "Ay ="},       {"istaz", "Az ="},
+      {"istix", "Ix ="},       {"istiy", "Iy ="},       {"istiz", "Iz ="},
+      {"istiw", "Iw ="},       {"istwely", "Wel,y ="},  {"istwelz", "Wel,z ="},
+      {"istwply", "Wpl,y ="},  {"istwplz", "Wpl,z ="}};
+  for (const auto& [name, caption] : named)
+    if (field == name) return caption;
+  const std::string bare = field.rfind("ist", 0) == 0 ? field.substr(3) : field;
+  return QString::fromStdString(bare) + " =";
+}
+
+QString FieldUnit(const std::string& field) {
+  if (field == "iload") return {};
+  if (field == "istax" || field == "istay" || field == "istaz") return "mm2";
+  if (field == "istix" || field == "istiy" || field == "istiz") return "mm4";
+  if (field == "istiw") return "mm6";
+  if (field.rfind("istw", 0) == 0 && field.size() > 5) return "mm3";
+  return "mm";
+}
+
+// The options of the dialogs: control, caption, the group whose value sets it, its own value.
+struct DialogOption {
+  const char* form;
+  const char* control;
+  const char* caption;
+  const char* group;
+  int value;
+  const char* frame;  // the frame that holds the group
+};
+
+constexpr DialogOption kOptions[] = {
+    {"p07", "optturn1", "As catalogued (h vertical)", "turned", 1, "Position"},
+    {"p07", "optturn0", "Turned 90 degrees", "turned", 0, "Position"},
+    {"p09", "optturn1", "As catalogued (h vertical)", "turned", 1, "Position"},
+    {"p09", "optturn0", "Turned 90 degrees", "turned", 0, "Position"},
+    {"p10", "opt_l10_1", "Single angle", "angle", 1, "Angle"},
+    {"p10", "opt_l10_2", "Double angle", "angle", 2, "Angle"},
+    {"p11", "opt_l10_1", "Single angle", "angle", 1, "Angle"},
+    {"p11", "opt_l10_2", "Double angle", "angle", 2, "Angle"},
+    {"p23", "oweld0", "Thick welds: a > 0.5 tf", "oweld", 0, "Welds"},
+    {"p23", "oweld1", "Other welds", "oweld", 1, "Welds"},
+    {"p24", "opthsq0", "Consider flange loading (valid for q-load)", "opthsq", 0, "Flange loading"},
+    {"p24", "opthsq1", "No flange loading", "opthsq", 1, "Flange loading"},
+    {"p25", "opthsq0", "Consider flange loading (valid for q-load)", "opthsq", 0, "Flange loading"},
+    {"p25", "opthsq1", "No flange loading", "opthsq", 1, "Flange loading"},
+    {"p24", "OptClass23Y", "Yes", "OptClass23", 0, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
+    {"p24", "OptClass23N", "No", "OptClass23", 1, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
+    {"p25", "OptClass23Y", "Yes", "OptClass23", 0, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
+    {"p25", "OptClass23N", "No", "OptClass23", 1, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
+    {"p31", "opthot", "Hot finished", "tube", 1, "Manufacture"},
+    {"p31", "optcold", "Cold formed", "tube", 0, "Manufacture"},
+};
+
+}  // namespace
 
 // ---- SectionDialog ----
 
@@ -145,7 +209,58 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
     row->addStretch();
     left->addLayout(row);
   }
-  left->addWidget(list_);
+  const std::vector<std::string> fields = DimensionFieldNames(form_);
+  const bool plate = family.type >= 51 && family.type <= 56;
+  const bool listed = fields.empty() || family.type == 52 || family.type == 54;
+  if (fields.empty()) left->addWidget(list_);
+  // Typed dimensions: a plate with a stiffener has its plate (b1, t1 or tf1) and its stiffener
+  // apart; the other families one frame.
+  auto fieldFrame = [this](const QString& caption, const std::vector<std::string>& names,
+                           QComboBox* list) {
+    auto* g = new QGroupBox(caption);
+    auto* l = new QGridLayout(g);
+    int row = 0;
+    if (list) l->addWidget(list, row++, 0, 1, 3);
+    for (const std::string& f : names) {
+      auto* edit = new QLineEdit;
+      edit->setAlignment(Qt::AlignRight);
+      edit->setFixedWidth(fontMetrics().horizontalAdvance("0000000.0") + 12);
+      bindings_->field(edit, key(f.c_str()));
+      l->addWidget(new QLabel(FieldCaption(f)), row, 0, Qt::AlignRight);
+      l->addWidget(edit, row, 1);
+      l->addWidget(new QLabel(FieldUnit(f)), row, 2);
+      ++row;
+    }
+    l->setColumnStretch(2, 1);
+    return g;
+  };
+  if (!fields.empty() && plate) {
+    std::vector<std::string> sheet, stiffener;
+    for (const std::string& f : fields) (f.back() == '1' ? sheet : stiffener).push_back(f);
+    left->addWidget(fieldFrame("Plate:", sheet, nullptr));
+    left->addWidget(fieldFrame("Stiffener:", stiffener, listed ? list_ : nullptr));
+  } else if (!fields.empty()) {
+    left->addWidget(fieldFrame("Dimensions", fields, nullptr));
+  }
+  if (!listed) list_->hide();
+  // The options of the family, those the core knows.
+  std::vector<std::pair<QString, QVBoxLayout*>> frames;
+  for (const DialogOption& o : kOptions) {
+    if (form_ != o.form || !Session::knows(key(o.control))) continue;
+    QVBoxLayout* box = nullptr;
+    for (auto& [caption, layout] : frames)
+      if (caption == o.frame) box = layout;
+    if (!box) {
+      auto* g = new QGroupBox(o.frame);
+      box = new QVBoxLayout(g);
+      frames.emplace_back(o.frame, box);
+      left->addWidget(g);
+    }
+    auto* option = new QRadioButton(o.caption);
+    option->setObjectName(o.control);
+    bindings_->option(option, key(o.control), key(o.group), o.value);
+    box->addWidget(option);
+  }
   left->addWidget(name);
   left->addWidget(dims);
   left->addWidget(figureFrame_, 1);

@@ -223,6 +223,7 @@ EventResult LeaveDimensionField(State& s, const DimensionField& f, std::string_v
   }
   Recalculate(s);
   ShowSectionValues(s);
+  ShowDialogOptions(s, f.form);  // the flange load of an HSQ may have been turned off
   return r;
 }
 
@@ -240,6 +241,13 @@ void ShowDimensionFields(State& s, std::string_view form) {
     s.view.text[std::string(f.form) + "." + f.field] =
         FormatNumber(v, f.thickness ? "##0.0" : "##0", s.decimalComma);
   }
+}
+
+std::vector<std::string> DimensionFieldNames(std::string_view form) {
+  std::vector<std::string> names;
+  for (const DimensionField& f : Table())
+    if (form == f.form) names.push_back(f.field);
+  return names;
 }
 
 void RegisterDimensionFieldControls(ControlTable& t) {

@@ -48,6 +48,28 @@ constexpr std::array<SectionDialogInfo, 31> kDialogs{{
     {103, "p103", "mnuc", "p103i", "U"},  // "U" for the channels too
 }};
 
+// The option groups of the dialogs, each shown as the value of "<form>.<group>" that its options
+// compare with their own value.
+struct OptionGroup {
+  const char* form;
+  const char* group;
+  int (*value)(const State&);
+};
+
+const OptionGroup kOptionGroups[] = {
+    {"p07", "turned", [](const State& s) -> int { return s.project.rhsTurned; }},
+    {"p09", "turned", [](const State& s) -> int { return s.project.rhsTurned; }},
+    {"p10", "angle", [](const State& s) -> int { return s.project.angleOption; }},
+    {"p11", "angle", [](const State& s) -> int { return s.project.angleOption; }},
+    {"p23", "oweld", [](const State& s) -> int { return s.project.p23.oweld; }},
+    {"p24", "opthsq", [](const State& s) -> int { return s.project.hsqKind; }},
+    {"p25", "opthsq", [](const State& s) -> int { return s.project.hsqKind; }},
+    {"p24", "OptClass23", [](const State& s) -> int { return s.project.p24.classOption; }},
+    {"p25", "OptClass23", [](const State& s) -> int { return s.project.p25.classOption; }},
+    {"p31", "tube", [](const State& s) -> int { return s.project.p31.hotCold == 1 ? 1 : 0; }},
+};
+
+
 std::string Key(const SectionDialogInfo& d, const char* control) {
   return std::string(d.form) + "." + control;
 }
@@ -83,6 +105,7 @@ void Activate(State& s, const SectionDialogInfo& d) {
   if (d.name) s.project.profileName = d.name;
   Recalculate(s);
   ShowSectionValues(s);
+  ShowDialogOptions(s, d.form);
   RedrawFigure(s);
 }
 
@@ -154,6 +177,11 @@ const SectionDialogInfo* SectionDialogOfType(int type) {
   return nullptr;
 }
 
+void ShowDialogOptions(State& s, std::string_view form) {
+  for (const OptionGroup& g : kOptionGroups)
+    if (form == g.form) s.view.value[std::string(g.form) + "." + g.group] = g.value(s);
+}
+
 const SectionDialogInfo* SectionDialogOfForm(std::string_view form) {
   for (const SectionDialogInfo& d : kDialogs)
     if (form == d.form) return &d;
@@ -171,6 +199,8 @@ void AddSectionDialogOption(ControlTable& t, const char* form, const std::string
     set(s);
     Recalculate(s);
     ShowSectionValues(s);
+    ShowDialogOptions(s, form);  // a run may have turned an option off
+    RedrawFigure(s);             // the stock picture follows some options
     return EventResult{};
   });
 }

@@ -10,6 +10,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "sections/catalogue.h"
 
@@ -38,6 +39,14 @@ void EnsureSectionDialogActive(State& s, std::string_view form);
 // `set`, then Recalculate and ShowSectionValues.
 void AddSectionDialogOption(ControlTable& t, const char* form, const std::string& control,
                             std::function<void(State&)> set);
+
+// The values of the option groups of a dialog: view.value["p23.oweld"] is the value of the option
+// that is set ("p23.oweld0" has the value 0, "p23.oweld1" the value 1).
+void ShowDialogOptions(State& s, std::string_view form);
+
+// The typed dimension fields of a dialog in the order of the table ("isth", "istb1" ...); empty
+// for a catalogue dialog.
+std::vector<std::string> DimensionFieldNames(std::string_view form);
 
 // The typed dimensions of a dimension dialog written into its fields ("##0", "##0.0").
 void ShowDimensionFields(State& s, std::string_view form);

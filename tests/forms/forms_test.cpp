@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 #include <clocale>
 #include <memory>
@@ -518,6 +519,40 @@ class FormsTest : public QObject {
       d->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/p04-to-scale.png");
       form->grab().save(qEnvironmentVariable("VARNELT_SHOTS") + "/main-ipe.png");
     }
+  }
+
+  void sectionButtonOpensTheDimensionDialogWhoseFieldsKeepTheirLimits() {
+    auto* row = control<QToolBar>("sectionButtons");
+    QAction* welded = nullptr;
+    int buttons = 0;
+    for (QAction* a : row->actions()) {
+      if (a->objectName() == "p21i") welded = a;
+      if (!a->isSeparator() && !a->objectName().isEmpty()) ++buttons;
+    }
+    QCOMPARE(buttons, 31);  // one for each family
+    QVERIFY(welded);
+    welded->trigger();
+    QCOMPARE(session->state().project.ProfileType, 21);
+    auto* d = qobject_cast<SectionDialog*>(form->dialog("p21"));
+    QVERIFY(d);
+    auto* h = d->findChild<QLineEdit*>("p21.isth");
+    QVERIFY(h);
+    QCOMPARE(h->text(), QString("600"));  // the stored depth of a new project
+    h->setFocus(Qt::TabFocusReason);
+    QCoreApplication::processEvents();
+    type(h, "15");
+    QTest::keyClick(h, Qt::Key_Return);
+    QCOMPARE(warnings, QStringList{" h >= 20 "});
+    QCOMPARE(QApplication::focusWidget(), h);
+    QCOMPARE(session->state().project.p21.isth, 15.0f);  // stored before the test
+
+    // The plate with a bulb flat is opened by its own button name.
+    bool plate = false;
+    for (QAction* a : row->actions()) plate = plate || a->objectName() == "Command2";
+    QVERIFY(plate);
+    // The program's picture at the end of the row opens the information form.
+    QTest::mouseClick(control<QToolButton>("Picture"), Qt::LeftButton);
+    QVERIFY(form->dialog("InfoVARNELT"));
   }
 
   // ---- the Help menu ----

@@ -84,6 +84,34 @@ TEST(SectionDialogs, ProfileNamesOfTheMenu) {
   EXPECT_EQ(s.project.ProfileType, 2);
   EXPECT_EQ(s.project.profileName, "HEB");
   EXPECT_TRUE(IsOpen(s, "p02"));
+  Fire(s, "mnup11");
+  EXPECT_EQ(s.project.ProfileType, 11);
+  EXPECT_EQ(s.project.profileName, "L-unequal");
+  // The later families keep the name; the general section is drawn not to scale.
+  const std::pair<const char*, int> kept[] = {{"mnup06", 6}, {"mnup21", 21}, {"mnu26", 26},
+                                              {"mnuplateTg", 56}, {"Command2", 54}, {"mnup28", 28}};
+  for (const auto& [control, type] : kept) {
+    Fire(s, control);
+    EXPECT_EQ(s.project.ProfileType, type) << control;
+    EXPECT_EQ(s.project.profileName, "L-unequal") << control;
+  }
+  EXPECT_TRUE(IsOpen(s, "p54"));
+  s.project.figureNotToScale = 0;
+  Fire(s, "mnup41");
+  EXPECT_EQ(s.project.ProfileType, 41);
+  EXPECT_EQ(s.project.figureNotToScale, 1);
+  EXPECT_EQ(s.view.text["p41.pic1"], "Figure not to scale");
+}
+
+TEST(SectionDialogs, InformationFormsOpenAndClose) {
+  State s = DialogState();
+  for (const auto& [opener, form] : {std::pair{"Picture", "InfoVARNELT"}, std::pair{"setup.cmdULS", "InfoULS"},
+                                     std::pair{"setup.cmdPsi", "InfoPsi"}, std::pair{"mnuabout", "about"}}) {
+    Fire(s, opener);
+    EXPECT_TRUE(IsOpen(s, form)) << form;
+    Fire(s, std::string(form) + ".ok");
+    EXPECT_FALSE(IsOpen(s, form)) << form;
+  }
 }
 
 TEST(SectionDialogs, ListClickSelectsTheRowAndRecalculates) {
