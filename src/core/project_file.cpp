@@ -9,6 +9,7 @@
 #include "core/format.h"
 #include "core/state.h"
 #include "design/design_basis.h"
+#include "sections/rolled_i.h"
 
 namespace vn {
 
@@ -129,29 +130,6 @@ class Reader {
   size_t pos_ = 0;
 };
 
-// The catalogue rows of a family that the file keeps, by ProfileType.
-int CatalogueOfType(int type) {
-  switch (type) {
-    case 1: return catHea;
-    case 2: return catHeb;
-    case 3: return catHem;
-    case 4: return catIpe;
-    case 5: return catUpe;
-    case 6: return catShs;
-    case 7: return catRhs;
-    case 8: return catCfshs;
-    case 9: return catCfrhs;
-    case 10: return catL1;
-    case 11: return catL2;
-    case 15: return catInp;
-    case 16: return catUnp;
-    case 52: return catL3;
-    case 54: return catHp;
-    case 102: return catJ;
-  }
-  return -1;
-}
-
 int BritishICatalogue(int kind) { return kind == 2 ? catUc : (kind == 3 ? catUbp : catUb); }
 int ChannelCatalogue(int kind) { return kind == 2 ? catCh : catPfc; }
 
@@ -264,7 +242,9 @@ void WalkProject(IO& io, State& s, int version) {
 
   io.Int(p.ProfileType);
   const int type = p.ProfileType;
-  if (int cat = CatalogueOfType(type); cat >= 0) {
+  // The catalogue families keep their row here; the British ones keep theirs with their sub-family.
+  const CatalogueId cat = type == 101 || type == 103 ? catCount : CatalogueOfType(s, type);
+  if (cat != catCount) {
     io.Int(p.SelectedRow[static_cast<size_t>(cat)]);
     if (type == 52) {
       io.Num(p.p52.istb1);

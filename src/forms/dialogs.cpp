@@ -570,15 +570,20 @@ FormDialog* ModalDialog(Session* s, QWidget* owner) {
 
 // ---- About ----
 
-FormDialog* AboutDialog(Session* s, QWidget* owner) {
-  auto* d = new FormDialog(s, "about", "About Varnelt - EC3", owner);
-  auto* main = new QVBoxLayout(d);
+// The program's name in large bold type, at the head of the about and information forms.
+QLabel* ProgramTitle() {
   auto* title = new QLabel("Varnelt EC3");
   QFont f = title->font();
   f.setPointSizeF(f.pointSizeF() * 1.8);
   f.setBold(true);
   title->setFont(f);
-  main->addWidget(title);
+  return title;
+}
+
+FormDialog* AboutDialog(Session* s, QWidget* owner) {
+  auto* d = new FormDialog(s, "about", "About Varnelt - EC3", owner);
+  auto* main = new QVBoxLayout(d);
+  main->addWidget(ProgramTitle());
   main->addWidget(new QLabel(
       "Design of one steel member, beam or column, to Eurocode 3:\n"
       "EN 1993-1-1 for members and sections, EN 1993-1-5 for plated parts,\n"
@@ -642,12 +647,7 @@ FormDialog* UlsDialog(Session* s, QWidget* owner) {
 FormDialog* ProgramInfoDialog(Session* s, QWidget* owner) {
   auto* d = new FormDialog(s, "InfoVARNELT", "Varnelt EC3", owner);
   auto* main = new QVBoxLayout(d);
-  auto* title = new QLabel("Varnelt EC3");
-  QFont f = title->font();
-  f.setPointSizeF(f.pointSizeF() * 1.8);
-  f.setBold(true);
-  title->setFont(f);
-  main->addWidget(title);
+  main->addWidget(ProgramTitle());
   const State& st = s->state();
   main->addWidget(new QLabel(QString(
       "Design of one steel member, beam or column, to EN 1993-1-1, EN 1993-1-5 and EN 1990.\n\n"

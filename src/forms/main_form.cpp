@@ -25,6 +25,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
 #include <tuple>
 
 #include "forms/bindings.h"
@@ -77,21 +78,27 @@ QIcon SupportIcon(int type, QSize size) {
   return QIcon(pm);
 }
 
+// A small picture on a transparent ground, sharp on a scaled display.
+QIcon SmallIcon(const QSize& size, const std::function<void(QPainter&, const QSize&)>& draw) {
+  const qreal ratio = qApp->devicePixelRatio();
+  QPixmap pm(size * ratio);
+  pm.setDevicePixelRatio(ratio);
+  pm.fill(Qt::transparent);
+  QPainter p(&pm);
+  draw(p, size);
+  p.end();
+  return QIcon(pm);
+}
+
 // The picture of a buckling length button (1..6).
 QIcon BucklingIcon(int picture) {
   static QIcon icons[7];
   if (picture < 1 || picture > 6) picture = 6;
   if (icons[picture].isNull()) {
-    const QSize size(14, 28);
-    const qreal ratio = qApp->devicePixelRatio();
-    QPixmap pm(size * ratio);
-    pm.setDevicePixelRatio(ratio);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
-    DrawBucklingCaseIcon(canvas, picture);
-    p.end();
-    icons[picture] = QIcon(pm);
+    icons[picture] = SmallIcon(QSize(14, 28), [picture](QPainter& p, const QSize& size) {
+      PainterCanvas canvas(p, QRectF(QPointF(0, 0), QSizeF(size)));
+      DrawBucklingCaseIcon(canvas, picture);
+    });
   }
   return icons[picture];
 }
@@ -286,31 +293,26 @@ void MainForm::buildSectionButtons() {
   const State& s = session_->state();
   for (const ProfileEntry& e : kProfiles) {
     if (e.separatorBefore) row->addSeparator();
-    const QSize size(18, 18);
-    const qreal ratio = qApp->devicePixelRatio();
-    QPixmap pm(size * ratio);
-    pm.setDevicePixelRatio(ratio);
-    pm.fill(Qt::transparent);
-    {
-      QPainter p(&pm);
+    const int type = e.type;
+    const QIcon icon = SmallIcon(QSize(18, 18), [&s, type](QPainter& p, const QSize&) {
       p.setRenderHint(QPainter::Antialiasing);
-      PainterCanvas canvas(p, QRectF(QPointF(1, 1), QSizeF(16, 16)));
-      if (e.type == 41) {
+      if (type == 41) {
         // The general section has no shape of its own: its values are typed.
         QFont f = p.font();
         f.setBold(true);
         f.setPixelSize(12);
         p.setFont(f);
         p.drawText(QRectF(0, 0, 18, 18), Qt::AlignCenter, "A,I");
-      } else {
-        try {
-          DrawStockSection(canvas, s, e.type, false);
-        } catch (const std::exception&) {
-        }
+        return;
       }
-    }
+      PainterCanvas canvas(p, QRectF(QPointF(1, 1), QSizeF(16, 16)));
+      try {
+        DrawStockSection(canvas, s, type, false);
+      } catch (const std::exception&) {
+      }
+    });
     const std::string control = ButtonOf(e);
-    QAction* a = row->addAction(QIcon(pm), QString(e.caption).remove('&').trimmed());
+    QAction* a = row->addAction(icon, QString(e.caption).remove('&').trimmed());
     a->setObjectName(QString::fromStdString(control));
     connect(a, &QAction::triggered, this, [this, control] { session_->fireAndTell(this, control); });
   }
