@@ -76,17 +76,8 @@ const char* const kSettingsFile =
     "1\n"
     "0.7\n";
 
+// "Save as default" writes the file; the code id comes from codeIndex, not from the stale codeId.
 TEST(SetupFileWrite, TwentyNineLinesInThePortableForm) {
-  TempFolder dir;
-  State s;
-  s.appPath = dir.Path();
-  Settings(s.project);
-  WriteSetupFile(s);
-  EXPECT_EQ(dir.Read(kSetupFile), kSettingsFile);
-  EXPECT_EQ(s.project.codeId, "DK");
-}
-
-TEST(SetupFileWrite, SaveAsDefaultWritesTheFile) {
   TempFolder dir;
   State s;
   s.appPath = dir.Path();
@@ -95,6 +86,7 @@ TEST(SetupFileWrite, SaveAsDefaultWritesTheFile) {
   EXPECT_FALSE(r.refused);
   EXPECT_FALSE(r.recalculated);
   EXPECT_EQ(dir.Read(kSetupFile), kSettingsFile);
+  EXPECT_EQ(s.project.codeId, "DK");
 }
 
 TEST(SetupFileWrite, UnwritableFolderIsSilent) {
@@ -114,42 +106,21 @@ TEST(SetupFileRead, RoundTripGivesEveryFieldBack) {
   out.project.LfSLS_G = 0.1f;  // a Single with no short decimal form
   out.project.gammaM0 = 1.0 / 3.0;
   WriteSetupFile(out);
+  const std::string written = dir.Read(kSetupFile);
 
   State in;
   in.appPath = dir.Path();
   ReadSetupFile(in);
-  const Project& a = out.project;
-  const Project& b = in.project;
-  EXPECT_EQ(b.codeId, "DK");
-  EXPECT_EQ(b.gammaM0, a.gammaM0);
-  EXPECT_EQ(b.gammaM1, a.gammaM1);
-  EXPECT_EQ(b.neta, a.neta);
-  EXPECT_EQ(b.interactionMethod, a.interactionMethod);
-  EXPECT_EQ(b.lamdaLT0, a.lamdaLT0);
-  EXPECT_EQ(b.beta, a.beta);
-  EXPECT_EQ(b.lamdaLT0w, a.lamdaLT0w);
-  EXPECT_EQ(b.betaw, a.betaw);
-  EXPECT_EQ(b.steelGrade, a.steelGrade);
-  EXPECT_EQ(b.fyk, a.fyk);
-  EXPECT_EQ(b.E, a.E);
-  EXPECT_EQ(b.uflimit, a.uflimit);
-  EXPECT_EQ(b.elasticClass12, True);
-  EXPECT_EQ(b.conserControl, False);
-  EXPECT_EQ(b.noFlangeBuckling, True);
-  EXPECT_EQ(b.noWebBuckling, False);
-  EXPECT_EQ(b.LoadCombMode, a.LoadCombMode);
-  EXPECT_EQ(b.deflectionLimit, a.deflectionLimit);
-  EXPECT_EQ(b.safetyClass, a.safetyClass);
-  EXPECT_EQ(b.psiQ1Index, a.psiQ1Index);
-  EXPECT_EQ(b.psiQ2Index, a.psiQ2Index);
-  EXPECT_EQ(b.LfULS_G, a.LfULS_G);
-  EXPECT_EQ(b.LfULS_Q1, a.LfULS_Q1);
-  EXPECT_EQ(b.LfULS_Q2, a.LfULS_Q2);
-  EXPECT_EQ(b.LfSLS_G, a.LfSLS_G);
-  EXPECT_EQ(b.LfSLS_Q1, a.LfSLS_Q1);
-  EXPECT_EQ(b.LfSLS_Q2, a.LfSLS_Q2);
+  EXPECT_EQ(in.project.codeId, "DK");
   // The reader derives nothing: codeIndex waits for the start-up sequence.
-  EXPECT_EQ(b.codeIndex, 0);
+  EXPECT_EQ(in.project.codeIndex, 0);
+  EXPECT_EQ(in.project.gammaM0, 1.0 / 3.0);
+  EXPECT_EQ(in.project.LfSLS_G, 0.1f);
+  // Every other field: the file holds the shortest text that reads back the same value, so the
+  // record read gives the same file again only if each of the 29 slots came back into its field.
+  in.project.codeIndex = 3;
+  WriteSetupFile(in);
+  EXPECT_EQ(dir.Read(kSetupFile), written);
 }
 
 TEST(SetupFileRead, ValuesSeparatedByCommasOrLineEnds) {
