@@ -221,12 +221,18 @@ TEST(SetupFileRead, EmptyOrBinaryFileIsHarmless) {
   EXPECT_EQ(s.project.fyk, 111.0f);
 }
 
-TEST(LoadSettings, MissingFilesGiveZerosAndThePlainCode) {
-  TempFolder dir;
+// The start-up sequence of a new project in the given folder.
+State Started(const TempFolder& dir) {
   State s;
   s.appPath = dir.Path();
   s.project.fileName = "New File";
   LoadSettings(s);
+  return s;
+}
+
+TEST(LoadSettings, MissingFilesGiveZerosAndThePlainCode) {
+  TempFolder dir;
+  State s = Started(dir);
   const Project& p = s.project;
   EXPECT_EQ(s.steel.gradeLast, -1);
   EXPECT_EQ(p.codeId, "");
@@ -251,10 +257,7 @@ TEST(LoadSettings, DerivesPsiCodeFactorsTextsAndCaption) {
   TempFolder dir;
   dir.Write(kSetupFile, kSettingsFile);
   dir.Write(kSteelGradeFile, vn::test::kGradeFile);
-  State s;
-  s.appPath = dir.Path();
-  s.project.fileName = "New File";
-  LoadSettings(s);
+  State s = Started(dir);
   const Project& p = s.project;
   EXPECT_EQ(s.steel.gradeLast, 7);
   EXPECT_EQ(p.codeIndex, 3);
@@ -272,17 +275,13 @@ TEST(LoadSettings, UnknownCodeIsThePlainCodeAndNorsokForcesItsMode) {
   std::string text = kSettingsFile;
   text.replace(text.find("\"DK\""), 4, "\"XX\"");
   dir.Write(kSetupFile, text);
-  State s;
-  s.appPath = dir.Path();
-  LoadSettings(s);
+  State s = Started(dir);
   EXPECT_EQ(s.project.codeIndex, 0);
   EXPECT_DOUBLE_EQ(s.project.gammaM0, 1.0);  // the stored 1.1 is overwritten by the plain code
 
   text.replace(text.find("\"XX\""), 4, "\"NK\"");
   dir.Write(kSetupFile, text);
-  State n;
-  n.appPath = dir.Path();
-  LoadSettings(n);
+  State n = Started(dir);
   EXPECT_EQ(n.project.codeIndex, 7);
   EXPECT_EQ(n.project.LoadCombMode, 4);  // the file said 3
 }
@@ -293,9 +292,7 @@ TEST(LoadSettings, UserDefinedTakesTheStoredFactors) {
   text.replace(text.find("\"DK\""), 4, "\"UD\"");
   text.replace(text.find("\n1.1\n"), 5, "\n1.25\n");
   dir.Write(kSetupFile, text);
-  State s;
-  s.appPath = dir.Path();
-  LoadSettings(s);
+  State s = Started(dir);
   EXPECT_EQ(s.project.codeIndex, 8);
   EXPECT_DOUBLE_EQ(s.project.gammaM0, 1.25);
   EXPECT_EQ(s.project.gammaM1, 1.2f);
