@@ -394,12 +394,6 @@ TEST(LtbDialog, TheLengthFactorWaitsWhileTheControlIsOff) {
   EXPECT_FLOAT_EQ(s.project.ltbFactor, 0.7f);
 }
 
-}  // namespace
-}  // namespace vn
-
-namespace vn {
-namespace {
-
 // A channel has only the general curve: with the stored curve left at the rolled one (the dialog
 // never opened), it must not inherit the reduction factor of the section chosen before it.
 TEST(LateralTorsionalChannels, TakeTheGeneralCurveWithoutTheDialog) {

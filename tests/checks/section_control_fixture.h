@@ -2,7 +2,7 @@
 // expected ratio is a line of hand arithmetic, and check points set one by one.
 #pragma once
 
-#include <initializer_list>
+#include <vector>
 
 #include "core/state.h"
 #include "support/test_support.h"
@@ -79,7 +79,7 @@ inline State SyntheticI() {
 }
 
 // Sets the check points 0..n-1 and the axial force of the member.
-inline void SetPoints(State& s, double NEd, std::initializer_list<PointForces> points) {
+inline void SetPoints(State& s, double NEd, const std::vector<PointForces>& points) {
   Analysis& an = s.analysis;
   an.NEd = NEd;
   an.NPoints = static_cast<Integer>(points.size()) - 1;

@@ -52,21 +52,16 @@ TEST(NewProject, SetsTheDefaultsOfANewProject) {
   EXPECT_EQ(s.loads.point[8].Dir, 1);
 }
 
-TEST(NewProject, RecalculatesOnceBetweenItsFirstAndLastStage) {
+TEST(NewProject, RecalculatesOnceAndKeepsTheSettingsOfThePreviousProject) {
   State s;
   s.project.L = 7.0f;  // a field of the previous project
-  NewProject(s);
-  EXPECT_EQ(s.recalcCount, 1);
-  EXPECT_EQ(s.project.L, 5.0f);
-}
-
-TEST(NewProject, KeepsTheSettingsOfThePreviousProject) {
-  State s;
   s.project.gammaM0 = 1.1;
   s.project.E = 200000;
   s.project.deflectionLimit = 250;
   s.project.codeId = "DK";
   NewProject(s);
+  EXPECT_EQ(s.recalcCount, 1);  // once, between its first and last stage
+  EXPECT_EQ(s.project.L, 5.0f);
   EXPECT_EQ(s.project.gammaM0, 1.1);
   EXPECT_EQ(s.project.E, 200000.0f);
   EXPECT_EQ(s.project.deflectionLimit, 250);
@@ -322,12 +317,6 @@ TEST(StateJson, NamesEveryRecordAndSetsFieldsByPath) {
   EXPECT_NE(json.find("\"txtError\":\"\""), std::string::npos);
 }
 
-}  // namespace
-}  // namespace vn
-
-namespace vn {
-namespace {
-
 TEST(RefreshMainForm, HoldsTheStiffenerDistanceWithinAShorterMember) {
   State s = NewState();
   s.project.a = 2500;
@@ -338,12 +327,6 @@ TEST(RefreshMainForm, HoldsTheStiffenerDistanceWithinAShorterMember) {
   RefreshMainForm(s);
   EXPECT_EQ(s.project.a, 1500.0f);
 }
-
-}  // namespace
-}  // namespace vn
-
-namespace vn {
-namespace {
 
 TEST(FieldProtocol, EnterOnTheSpringButtonHasTheNarrowerRange) {
   State s = test::StartedState();

@@ -2,8 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "core/events.h"
 #include "core/file_actions.h"
@@ -22,11 +20,11 @@ class ProjectFile : public ::testing::Test {
  protected:
   void SetUp() override { NewProject(s_); }
   std::string Path(const char* name) const { return folder_.Path(name); }
-  static std::string Slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream o;
-    o << in.rdbuf();
-    return o.str();
+  // A project as NewProject leaves it, to read a file into.
+  static State Fresh() {
+    State t;
+    NewProject(t);
+    return t;
   }
   // The stored part of the state: project and loads, as JSON.
   static std::string Stored(const State& s) {
@@ -115,8 +113,7 @@ TEST_F(ProjectFile, BeamModeRoundTripReproducesEveryStoredField) {
   s_.project.SelectedRow[catIpe] = 13;
   std::string before = Stored(s_);
   ASSERT_EQ(WriteProject(s_, Path("a.vnt")), FileResult::Ok);
-  State t;
-  NewProject(t);
+  State t = Fresh();
   t.project.fileName = s_.project.fileName;
   ASSERT_EQ(ReadProject(t, Path("a.vnt")), FileResult::Ok);
   // psi follows from the index on reading: (6 + 1) * 0.1 and (4 + 1) * 0.1.
@@ -137,8 +134,7 @@ TEST_F(ProjectFile, EndForceModeRoundTripAndNoLoadTablesInTheFile) {
   p.Vy12 = {0, 1.25f, -1.25f};
   p.Vz12 = {0, 45, 12};
   ASSERT_EQ(WriteProject(s_, Path("e.vnt")), FileResult::Ok);
-  State t;
-  NewProject(t);
+  State t = Fresh();
   t.loads.uniform[4].q = 99;  // what is in memory stays: the file has no load tables
   ASSERT_EQ(ReadProject(t, Path("e.vnt")), FileResult::Ok);
   EXPECT_EQ(t.project.NEndForce, -250.5f);
@@ -177,8 +173,7 @@ TEST_F(ProjectFile, EveryFamilyBlockRoundTripsButCOfFamily24) {
   for (int type : {21, 22, 23, 24, 25, 26, 27, 28, 31, 41, 51, 52, 53, 54, 55, 56, 101, 103}) {
     p.ProfileType = static_cast<Integer>(type);
     ASSERT_EQ(WriteProject(s_, Path("f.vnt")), FileResult::Ok);
-    State t;
-    NewProject(t);
+    State t = Fresh();
     t.project.psiQ1 = p.psiQ1;
     ASSERT_EQ(ReadProject(t, Path("f.vnt")), FileResult::Ok) << type;
     t.project.psiQ1 = p.psiQ1;
@@ -208,8 +203,7 @@ TEST_F(ProjectFile, EveryFamilyBlockRoundTripsButCOfFamily24) {
   // The catalogue rows of the British families and the plate bars.
   p.ProfileType = 101;
   ASSERT_EQ(WriteProject(s_, Path("g.vnt")), FileResult::Ok);
-  State t;
-  NewProject(t);
+  State t = Fresh();
   ASSERT_EQ(ReadProject(t, Path("g.vnt")), FileResult::Ok);
   EXPECT_EQ(t.project.subFamily101, 2);
   EXPECT_EQ(t.project.SelectedRow[catUc], 12);
@@ -227,13 +221,12 @@ TEST_F(ProjectFile, Version118AddsOneToTheCombinationMode) {
   s_.project.LoadCombMode = 0;
   std::string text = ProjectFileText(s_);
   text.replace(0, 3, "118");
-  { std::ofstream(Path("old.vnt"), std::ios::binary) << text; }
-  State t;
-  NewProject(t);
+  folder_.Write("old.vnt", text);
+  State t = Fresh();
   ASSERT_EQ(ReadProject(t, Path("old.vnt")), FileResult::Ok);
   EXPECT_EQ(t.project.LoadCombMode, 1);
   text.replace(0, 3, "119");
-  { std::ofstream(Path("old.vnt"), std::ios::binary) << text; }
+  folder_.Write("old.vnt", text);
   ASSERT_EQ(ReadProject(t, Path("old.vnt")), FileResult::Ok);
   EXPECT_EQ(t.project.LoadCombMode, 0);
 }
@@ -250,9 +243,8 @@ TEST_F(ProjectFile, Version119HasNoClassOptionInFamily24AndShiftsNothing) {
   ASSERT_NE(at, std::string::npos);
   text.erase(at + 6, 3);
   text.replace(0, 3, "119");
-  { std::ofstream(Path("v119.vnt"), std::ios::binary) << text; }
-  State t;
-  NewProject(t);
+  folder_.Write("v119.vnt", text);
+  State t = Fresh();
   ASSERT_EQ(ReadProject(t, Path("v119.vnt")), FileResult::Ok);
   EXPECT_EQ(t.project.p24.classOption, 1);
   EXPECT_EQ(t.project.SelfweightOn, 1);
@@ -262,7 +254,7 @@ TEST_F(ProjectFile, Version119HasNoClassOptionInFamily24AndShiftsNothing) {
 TEST_F(ProjectFile, AFileTooShortKeepsWhatWasReadAndTellsTheVersion) {
   std::string text = ProjectFileText(s_);
   text = text.substr(0, text.find("\r\n", 40) + 2);  // a few values only
-  { std::ofstream(Path("short.vnt"), std::ios::binary) << text; }
+  folder_.Write("short.vnt", text);
   s_.project.projectName = "Before";
   EventResult r = OpenAction(s_, Path("short.vnt"));
   EXPECT_TRUE(r.refused);
@@ -281,12 +273,12 @@ TEST_F(ProjectFile, AMissingFileIsNamedAndChangesNothing) {
 
 TEST_F(ProjectFile, AFailedSaveLeavesThePreviousFileWhole) {
   ASSERT_EQ(WriteProject(s_, Path("keep.vnt")), FileResult::Ok);
-  std::string before = Slurp(Path("keep.vnt"));
+  std::string before = folder_.Read("keep.vnt");
   EXPECT_EQ(WriteProject(s_, (folder_.Dir() / "nodir" / "x.vnt").string()), FileResult::NotFound);
   s_.project.fileName = (folder_.Dir() / "nodir" / "x.vnt").string();
   EventResult r = SaveAction(s_, "");
   EXPECT_EQ(r.message, "can't save file - " + (folder_.Dir() / "nodir" / "x.vnt").string());
-  EXPECT_EQ(Slurp(Path("keep.vnt")), before);
+  EXPECT_EQ(folder_.Read("keep.vnt"), before);
   EXPECT_FALSE(fs::exists(Path("keep.vnt.tmp~")));
 }
 
@@ -351,8 +343,7 @@ TEST_F(ProjectFile, NewAsksOnASavedProjectOnly) {
   EXPECT_EQ(s_.project.L, 8.0f);
   Fire(s_, "mnunew", "Yes");
   EXPECT_EQ(s_.project.L, 5.0f);
-  State t;
-  NewProject(t);
+  State t = Fresh();
   ASSERT_EQ(ReadProject(t, Path("saved.vnt")), FileResult::Ok);
   EXPECT_EQ(t.project.L, 8.0f);  // Yes wrote the changes first
 }
