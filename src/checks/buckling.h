@@ -23,6 +23,20 @@ void BucklingFactors(State& s);
 // chi of 6.3.1.2 for a slenderness and an imperfection factor; 1 up to the plateau 0.2.
 double FlexuralChi(double lamda, double alpha);
 
+// ---- The buckling control (buckling_i.cpp) ----
+
+// What a family changes in the buckling control of the I family: whether it has the lateral
+// torsional line, how the moment terms join the formula ("+" or " + "), and whether the z line of
+// biaxial bending without axial force takes the magnitude of MyGov.
+struct BucklingStyle {
+  bool lateralTorsional;
+  const char* join;
+  bool absMyBiaxial;
+};
+inline constexpr BucklingStyle kBucklingStyleI{true, "+", false};
+// The lines about y and z, and LT where the style has it.
+void RunBucklingControl(State& s, const BucklingStyle& style);
+
 // ---- Lateral torsional buckling (lateral_torsional.cpp) ----
 
 struct CFactors {
@@ -59,8 +73,9 @@ void EquivalentMomentB(State& s);
 void EquivalentMomentBEnd(State& s);
 void FactorsMethod2(State& s);
 // The factors of the method chosen in the settings, with their equivalent moment factors; Method 1
-// may set calcError, after which the caller stops.
-void InteractionFactors(State& s);
+// may set calcError, after which the caller stops. Method 1 takes the critical moment of uniform
+// moment first where the section can buckle laterally (`lateralTorsional`).
+void InteractionFactors(State& s, bool lateralTorsional = true);
 // Whether anything acts in the plane of z (My, Vz) and of y (Mz, Vy), for the shape fallback of
 // Method 2.
 void LoadPlanes(State& s);

@@ -54,7 +54,9 @@ void LateralTorsionalLine(State& s, double& IRlt) {
 }
 
 // The terms of My and Mz added to the flexural lines (6.61 about y, 6.62 about z).
-void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
+void MomentTerms(State& s, const BucklingStyle& style, bool yLine, bool zLine, double& IRy,
+                 double& IRz) {
+  const std::string j = style.join;
   const Analysis& an = s.analysis;
   const Section& c = s.section;
   Checks& k = s.checks;
@@ -65,12 +67,12 @@ void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
     const std::string tail = "*" + F1(s, m) + "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
     if (yLine) {
       IRy += Div(k.kyy * m, k.xLT * c.MyRdBuck);
-      ty.Formula += "+kyy*My,Ed/(xLT*My,Rd) ";
+      ty.Formula += j + "kyy*My,Ed/(xLT*My,Rd) ";
       ty.Numbers += "+" + F2(s, k.kyy) + tail;
     }
     if (zLine) {
       IRz += Div(k.kzy * m, k.xLT * c.MyRdBuck);
-      tz.Formula += "+kzy*My,Ed/(xLT*My,Rd) ";
+      tz.Formula += j + "kzy*My,Ed/(xLT*My,Rd) ";
       tz.Numbers += "+" + F2(s, k.kzy) + tail;
     }
   }
@@ -79,12 +81,12 @@ void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
     const std::string tail = "*" + F1(s, mz) + "/" + F1(s, c.MzRdBuck);
     if (yLine) {
       IRy += Div(k.kyz * mz, c.MzRdBuck);
-      ty.Formula += "+kyz*Mz,Ed/Mz,Rd ";
+      ty.Formula += j + "kyz*Mz,Ed/Mz,Rd ";
       ty.Numbers += "+" + F2(s, k.kyz) + tail;
     }
     if (zLine) {
       IRz += Div(k.kzz * mz, c.MzRdBuck);
-      tz.Formula += "+kzz*Mz,Ed/Mz,Rd ";
+      tz.Formula += j + "kzz*Mz,Ed/Mz,Rd ";
       tz.Numbers += "+" + F2(s, k.kzz) + tail;
     }
   }
@@ -102,11 +104,12 @@ void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
 
 // Biaxial bending without axial force. The z line keeps the sign of MyGov: a sagging and a hogging
 // maximum give different ratios, as the program has always reported them.
-void BiaxialWithoutAxialForce(State& s, double& IRy, double& IRz) {
+void BiaxialWithoutAxialForce(State& s, const BucklingStyle& style, double& IRy, double& IRz) {
   const Analysis& an = s.analysis;
   const Section& c = s.section;
   Checks& k = s.checks;
-  const double My = an.MyGov, Mz = an.MzGov;
+  const double My = style.absMyBiaxial ? std::fabs(an.MyGov) : an.MyGov;
+  const double Mz = an.MzGov;
   const std::string xm = "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
   const std::string zm = "*" + F1(s, Mz) + "/" + F1(s, c.MzRdBuck);
 
@@ -131,7 +134,9 @@ void BiaxialWithoutAxialForce(State& s, double& IRy, double& IRz) {
 
 }  // namespace
 
-void BucklingControlI(State& s) {
+void BucklingControlI(State& s) { RunBucklingControl(s, kBucklingStyleI); }
+
+void RunBucklingControl(State& s, const BucklingStyle& style) {
   Project& p = s.project;
   Analysis& an = s.analysis;
   Checks& k = s.checks;
@@ -141,7 +146,7 @@ void BucklingControlI(State& s) {
   k.buckTextLT = ControlText{};
   double IRy = 0, IRz = 0, IRlt = 0;
 
-  if (p.ltbOn == 1)
+  if (style.lateralTorsional && p.ltbOn == 1)
     LateralTorsionalLine(s, IRlt);
   else
     k.xLT = 1;
@@ -187,16 +192,16 @@ void BucklingControlI(State& s) {
         IRz = 0;
       }
     } else {
-      InteractionFactors(s);
+      InteractionFactors(s, style.lateralTorsional);
       if (p.calcError != 0) return;
-      MomentTerms(s, yLine, zLine, IRy, IRz);
+      MomentTerms(s, style, yLine, zLine, IRy, IRz);
     }
   }
 
   if (NEd == 0 && an.MyGov != 0 && an.MzGov != 0) {
-    InteractionFactors(s);
+    InteractionFactors(s, style.lateralTorsional);
     if (p.calcError != 0) return;
-    BiaxialWithoutAxialForce(s, IRy, IRz);
+    BiaxialWithoutAxialForce(s, style, IRy, IRz);
   }
 
   k.IRbuckY = IRy;

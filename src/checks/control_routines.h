@@ -9,4 +9,11 @@ struct State;
 void SectionControlI(State& s);
 void BucklingControlI(State& s);
 
+// Hollow sections and the welded box.
+void SectionControlHollow(State& s);
+void BucklingControlHollow(State& s);
+// The shear resistances of a closed section at a point: the two webs along z, the two flanges
+// along y, each by the shear buckling of its walls.
+void HollowShearResistances(State& s, double NEd, double MyEd);
+
 }  // namespace vn

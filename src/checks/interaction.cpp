@@ -257,14 +257,14 @@ void FactorsMethod2(State& s) {
   }
 }
 
-void InteractionFactors(State& s) {
+void InteractionFactors(State& s, bool lateralTorsional) {
   const Project& p = s.project;
   if (p.interactionMethod == 1) {
     if (p.AnalysisMode == 1)
       EquivalentMomentA(s);
     else
       EquivalentMomentAEnd(s);
-    CriticalMoment0(s);
+    if (lateralTorsional) CriticalMoment0(s);
     FactorsMethod1(s);
   } else {
     if (p.AnalysisMode == 1)

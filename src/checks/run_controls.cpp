@@ -13,6 +13,9 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
       {1, 5, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {15, 16, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {101, 103, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
+      // Hollow sections.
+      {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
+       BucklingWhen::Always},
       // The welded I (21) and the other families join with their section routines.
   };
   return rows;

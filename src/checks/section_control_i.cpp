@@ -47,7 +47,9 @@ std::string PointLimit(const State& s, double xRel, const char* tail) {
   return " < " + F1(s, s.analysis.IRlimit) + " (" + F2(s, xRel) + tail;
 }
 
-void ComputeMyRd(State& s) {
+void ComputeMyRd(State& s) { MyRdOfWebs(s, 1); }
+
+void MyRdOfWebs(State& s, double webs) {
   Checks& k = s.checks;
   Section& c = s.section;
   const Project& p = s.project;
@@ -60,7 +62,7 @@ void ComputeMyRd(State& s) {
     k.rhoZ = 0;
   }
   const double hw = c.hw, tw = c.tw, fyk = p.fyk;
-  const double web = hw * hw * (tw * static_cast<double>(k.rhoZ));
+  const double web = hw * hw * (webs * k.rhoZ * tw);
   double base, R;
   if (k.classCur <= 2 && !On(p.elasticClass12)) {
     c.Wy = c.Wply;
@@ -80,7 +82,10 @@ void ComputeMyRd(State& s) {
   if (k.MyRd > c.MyRdClass) k.MyRd = ToSingle(c.MyRdClass);
 }
 
-void ComputeMzRd(State& s) {
+// Both flanges in the plastic form, one in the elastic: wanted as it stands.
+void ComputeMzRd(State& s) { MzRdOfWalls(s, s.section.b, 2, 1); }
+
+void MzRdOfWalls(State& s, double depth, double plasticWalls, double elasticWalls) {
   Checks& k = s.checks;
   Section& c = s.section;
   const Project& p = s.project;
@@ -92,21 +97,20 @@ void ComputeMzRd(State& s) {
   } else {
     k.rhoY = 0;
   }
-  const double b = c.b, tf = c.tf, fyk = p.fyk;
+  const double tf = c.tf, fyk = p.fyk;
   const double rho = k.rhoY;
   double base, R;
   if (k.classCur <= 2 && !On(p.elasticClass12)) {
-    // Both flanges in the plastic form, one in the elastic: wanted as it stands.
     c.Wz = c.Wplz;
-    R = b * b * (2 * rho * tf) / 4 / 1000000 * fyk;
+    R = depth * depth * (plasticWalls * rho * tf) / 4 / 1000000 * fyk;
     base = c.MplzRd;
   } else if (k.classCur == 4) {
     c.Wz = c.Weffz;
-    R = b * b * (tf * rho) / 6 / 1000000 * fyk;
+    R = depth * depth * (elasticWalls * rho * tf) / 6 / 1000000 * fyk;
     base = c.MeffzRd;
   } else {
     c.Wz = c.Welz;
-    R = b * b * (tf * rho) / 6 / 1000000 * fyk;
+    R = depth * depth * (elasticWalls * rho * tf) / 6 / 1000000 * fyk;
     base = c.MelzRd;
   }
   k.MzRd = ToSingle(base - Div(R, p.gammaM0));
@@ -155,7 +159,26 @@ void ComputeMNzRd(State& s) {
   if (N <= Div(Div(static_cast<double>(c.hw) * c.tw * p.fyk, p.gammaM0), 1000)) k.MNzRd = k.MzRd;
 }
 
-void SectionControlI(State& s) {
+namespace {
+
+// alfa = 2 and beta = 5n, not below 1, for every section of the I family, channels included.
+void ExponentsI(State& s) {
+  Checks& k = s.checks;
+  k.alfa = 2;
+  k.betaN = 5 * std::fabs(Div(s.analysis.NEd, s.section.NtRd));
+  if (k.betaN < 1) k.betaN = 1;
+}
+
+void ShearI(State& s, double NEd, double MyEd) { ComputeShearResistances(s, NEd, MyEd); }
+
+const SectionControlRules kRulesI{ExponentsI, false,      ClassAboutY,  ClassAboutZ, ComputeMyRd,
+                                  ComputeMzRd, ComputeMNyRd, ComputeMNzRd, ShearI};
+
+}  // namespace
+
+void SectionControlI(State& s) { RunSectionControl(s, kRulesI); }
+
+void RunSectionControl(State& s, const SectionControlRules& rules) {
   Checks& k = s.checks;
   Analysis& an = s.analysis;
   const Section& c = s.section;
@@ -171,9 +194,7 @@ void SectionControlI(State& s) {
   }
   const double NEd = an.NEd;
   k.NRd = NEd > 0 ? c.NcRd : c.NtRd;
-  k.alfa = 2;
-  k.betaN = 5 * std::fabs(Div(NEd, c.NtRd));
-  if (k.betaN < 1) k.betaN = 1;
+  rules.exponents(s);
 
   double& IR1 = k.IRsec[1];
   double& IR2 = k.IRsec[2];
@@ -185,17 +206,22 @@ void SectionControlI(State& s) {
   ControlText& t2 = k.secText[2];
   ControlText& t3 = k.secText[3];
 
-  // 2. The axial force, once for the member.
+  // 2. The axial force, once for the member; the closed sections name the first point.
+  auto axialLimit = [&](const char* clause) {
+    if (rules.axialPlace)
+      return PointLimit(s, an.ChPointXrel[0], (std::string("L; ") + clause + ")").c_str());
+    return " < " + F(lim) + " (" + clause + ")";
+  };
   if (NEd < 0) {
     const double ir = std::fabs(Div(NEd, c.NtRd));
     if (Compete(ir, IR1, col1, lim))
       Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NtRd) + " = ", ir,
-            " < " + F(lim) + " (Ch 6.2.3)");
+            axialLimit("Ch 6.2.3"));
   } else if (NEd > 0) {
     const double ir = std::fabs(Div(NEd, c.NcRd));
     if (Compete(ir, IR1, col1, lim))
       Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NcRd) + " = ", ir,
-            " < " + F(lim) + " (Ch 6.2.4)");
+            axialLimit("Ch 6.2.4"));
   }
 
   // 3. Every check point, in ascending order of its index.
@@ -215,7 +241,7 @@ void SectionControlI(State& s) {
     // b. My alone.
     if (MyEd != 0) {
       k.classCur = c.classMy;
-      ComputeMyRd(s);
+      rules.myRd(s);
       const double ir = Div(MyEd, k.MyRd);
       if (Compete(ir, IR1, col1, lim))
         Write(s, t1, lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ",
@@ -226,7 +252,7 @@ void SectionControlI(State& s) {
     // c. Mz alone.
     if (MzEd != 0) {
       k.classCur = c.classMz;
-      ComputeMzRd(s);
+      rules.mzRd(s);
       const double ir = Div(MzEd, k.MzRd);
       if (Compete(ir, IR1, col1, lim))
         Write(s, t1, lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ",
@@ -237,9 +263,9 @@ void SectionControlI(State& s) {
     // d. Both moments without an axial force.
     if (MyEd != 0 && MzEd != 0 && NEd == 0) {
       k.classCur = c.classMy;
-      ComputeMyRd(s);
+      rules.myRd(s);
       k.classCur = c.classMz;
-      ComputeMzRd(s);
+      rules.mzRd(s);
       if (!conser && c.classMy <= 2 && c.classMz <= 2) {
         const double ir = Pow(Div(MyEd, k.MyRd), k.alfa) + Pow(Div(MzEd, k.MzRd), k.betaN);
         if (Compete(ir, IR2, col2, lim))
@@ -262,10 +288,10 @@ void SectionControlI(State& s) {
 
     // e. N and My.
     if (NEd != 0 && MyEd != 0) {
-      k.classCur = ClassAboutY(s, NEd, MyEd);
-      ComputeMyRd(s);
+      k.classCur = rules.classY(s, NEd, MyEd);
+      rules.myRd(s);
       if (k.classCur <= 2 && !conser) {
-        ComputeMNyRd(s);
+        rules.mnyRd(s);
         // With 1 - n below zero the ratio is negative and loses: only group 1 shows the overload.
         const double ir = Div(MyEd, k.MNyRd);
         if (Compete(ir, IR2, col2, lim))
@@ -273,7 +299,7 @@ void SectionControlI(State& s) {
                 F(MyEd) + "/" + F(k.MNyRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         k.classCur = c.classMy;
-        ComputeMyRd(s);
+        rules.myRd(s);
         const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2, highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd = " : "IR = NEd/NRd+My,Ed/My,Rd = ",
@@ -284,17 +310,17 @@ void SectionControlI(State& s) {
 
     // f. N and Mz.
     if (NEd != 0 && MzEd != 0) {
-      k.classCur = ClassAboutZ(s, NEd, MzEd);
-      ComputeMzRd(s);
+      k.classCur = rules.classZ(s, NEd, MzEd);
+      rules.mzRd(s);
       if (k.classCur <= 2 && !conser) {
-        ComputeMNzRd(s);
+        rules.mnzRd(s);
         const double ir = Div(MzEd, k.MNzRd);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2, highVy ? "IR = Mz,Ed/MVN,z,Rd = " : "IR = Mz,Ed/MN,z,Rd = ",
                 F(MzEd) + "/" + F(k.MNzRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         k.classCur = c.classMz;
-        ComputeMzRd(s);
+        rules.mzRd(s);
         const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MzEd, k.MzRd);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2, highVy ? "IR = NEd/NRd+Mz,Ed/MV,z,Rd = " : "IR = NEd/NRd+Mz,Ed/Mz,Rd = ",
@@ -305,15 +331,15 @@ void SectionControlI(State& s) {
 
     // g. N with both moments.
     if (NEd != 0 && MyEd != 0 && MzEd != 0) {
-      k.classCur = ClassAboutY(s, NEd, MyEd);
+      k.classCur = rules.classY(s, NEd, MyEd);
       k.classNMy = k.classCur;
-      ComputeMyRd(s);
-      k.classCur = ClassAboutZ(s, NEd, MzEd);
+      rules.myRd(s);
+      k.classCur = rules.classZ(s, NEd, MzEd);
       k.classNMz = k.classCur;
-      ComputeMzRd(s);
+      rules.mzRd(s);
       if (!conser && k.classNMy <= 2 && k.classNMz <= 2) {
-        ComputeMNyRd(s);
-        ComputeMNzRd(s);
+        rules.mnyRd(s);
+        rules.mnzRd(s);
         const double ir =
             Pow(Div(MyEd, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
         if (Compete(ir, IR2, col2, lim))
@@ -325,9 +351,9 @@ void SectionControlI(State& s) {
                 ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         k.classCur = c.classMy;
-        ComputeMyRd(s);
+        rules.myRd(s);
         k.classCur = c.classMz;
-        ComputeMzRd(s);
+        rules.mzRd(s);
         const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2,
@@ -340,7 +366,7 @@ void SectionControlI(State& s) {
     }
 
     // h. The shear resistances of this point, with the flange contribution under its moment.
-    ComputeShearResistances(s, NEd, MyEd);
+    rules.shear(s, NEd, MyEd);
 
     // i. Vz: the label says Vz,Rd, the value is Vb,z,Rd.
     if (VzEd != 0) {

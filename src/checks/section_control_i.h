@@ -14,10 +14,33 @@ struct State;
 void ComputeMyRd(State& s);
 // The twin about z, with the flanges in place of the web.
 void ComputeMzRd(State& s);
+// ComputeMyRd with the shear taken by `webs` webs of hw x tw.
+void MyRdOfWebs(State& s, double webs);
+// ComputeMzRd with the shear taken by walls of depth x tf: `plasticWalls` of them in the plastic
+// form, `elasticWalls` in the elastic and effective ones.
+void MzRdOfWalls(State& s, double depth, double plasticWalls, double elasticWalls);
 // 6.2.9.1 (5): MyRd reduced for the axial force; n is taken against NtRd.
 void ComputeMNyRd(State& s);
 // 6.2.9.1 (5): MzRd reduced for the axial force.
 void ComputeMNzRd(State& s);
+
+// What a family changes in the cross-section control of the I family: the exponents of the
+// biaxial forms, whether the axial line names the first point, the classification under a force
+// pair, the four moment resistances at a point and the shear resistances of a point.
+struct SectionControlRules {
+  void (*exponents)(State&);  // sets Checks::alfa and betaN
+  bool axialPlace;
+  double (*classY)(State&, double N, double M);
+  double (*classZ)(State&, double N, double M);
+  void (*myRd)(State&);
+  void (*mzRd)(State&);
+  void (*mnyRd)(State&);
+  void (*mnzRd)(State&);
+  void (*shear)(State&, double NEd, double MyEd);
+};
+
+// The control of 6.2 at every check point by the given rules.
+void RunSectionControl(State& s, const SectionControlRules& rules);
 
 // The Limit text of a line at a check point: " < " + IRlimit + " (" + x/L + tail.
 std::string PointLimit(const State& s, double xRel, const char* tail);

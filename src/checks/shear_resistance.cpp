@@ -9,46 +9,46 @@
 
 namespace vn {
 
+double ShearBucklingChi(const State& s, double hw, double tw) {
+  const Project& p = s.project;
+  const double eps = p.epsilon, neta = p.neta;
+  // Slenderness of the web panel.
+  double lamdaW;
+  if (p.webStiffeners == 0) {
+    lamdaW = Div(Div(Div(hw, 86.4), eps), tw);
+  } else {
+    const double a = p.a;
+    const double ratio = Div(hw, a);
+    const double k = Div(a, hw) >= 1 ? 5.34 + 4 * ratio * ratio : 4 + 5.34 * ratio * ratio;
+    lamdaW = Div(Div(Div(Div(hw, 37.4), eps), tw), Sqrt(k));
+  }
+  // Reduction factor chi_w, EN 1993-1-5 Table 5.1.
+  if (lamdaW < Div(0.83, neta)) return neta;
+  if (p.rigidEndPost == 0) return Div(0.83, lamdaW);
+  if (lamdaW < 1.08) return Div(0.83, lamdaW);
+  return Div(1.37, 0.7 + lamdaW);
+}
+
+bool ShearStocky(const State& s, double hw, double tw) {
+  return ToSingle(Div(hw, tw)) < ToSingle(Div(72 * s.project.epsilon, s.project.neta));
+}
+
 std::string ComputeShearResistances(State& s, double NEd, double MyEd) {
   Section& c = s.section;
   const Project& p = s.project;
   const double hw = c.hw, tw = c.tw, tf = c.tf, b = c.b;
-  const double eps = p.epsilon, fyk = p.fyk, neta = p.neta;
+  const double fyk = p.fyk, neta = p.neta;
   const double g0 = p.gammaM0, g1 = p.gammaM1;
   const double sqrt3 = Sqrt(3);
   std::string suffix;
 
-  // The test is made in single precision; on the limit the web counts as slender.
-  const Single webSlenderness = ToSingle(Div(hw, tw));
-  const Single stockyLimit = ToSingle(Div(72 * eps, neta));
-  if (webSlenderness < stockyLimit) {
+  if (ShearStocky(s, hw, tw)) {
     c.VbzRd = ToSingle(c.VzRd);
     suffix = kShearSuffixStocky;
   } else {
     suffix = kShearSuffixSlender;
 
-    // Slenderness of the web panel.
-    double lamdaW;
-    if (p.webStiffeners == 0) {
-      lamdaW = Div(Div(Div(hw, 86.4), eps), tw);
-    } else {
-      const double a = p.a;
-      const double ratio = Div(hw, a);
-      const double k = Div(a, hw) >= 1 ? 5.34 + 4 * ratio * ratio : 4 + 5.34 * ratio * ratio;
-      lamdaW = Div(Div(Div(Div(hw, 37.4), eps), tw), Sqrt(k));
-    }
-
-    // Reduction factor chi_w, EN 1993-1-5 Table 5.1.
-    double chiW;
-    if (lamdaW < Div(0.83, neta))
-      chiW = neta;
-    else if (p.rigidEndPost == 0)
-      chiW = Div(0.83, lamdaW);
-    else if (lamdaW < 1.08)
-      chiW = Div(0.83, lamdaW);
-    else
-      chiW = Div(1.37, 0.7 + lamdaW);
-
+    const double chiW = ShearBucklingChi(s, hw, tw);
     // Contribution of the web.
     const double Vbw = Div(Div(Div(chiW * (tw * hw) * fyk, sqrt3), g1), 1000);
 

@@ -11,6 +11,12 @@ struct State;
 inline constexpr const char* kShearSuffixStocky = ")";
 inline constexpr const char* kShearSuffixSlender = " Support stiffener recommended)";
 
+// Whether a web of hw x tw is stocky in shear, hw/tw < 72 epsilon / eta, compared in single
+// precision: on the limit the web counts as slender.
+bool ShearStocky(const State& s, double hw, double tw);
+// chi_w of a slender web panel (EN 1993-1-5 Table 5.1) by its stiffeners and end post.
+double ShearBucklingChi(const State& s, double hw, double tw);
+
 // Sets VbzRd and VbyRd of the section and reduces MfyRd in place for the axial force, so that with
 // an axial force it shrinks a little at every call of a run. NEd is the axial force of the member in
 // kN, compression positive; MyEd the magnitude of the moment at the check point in kNm.

@@ -2,6 +2,7 @@
 
 #include "sections/british.h"
 #include "sections/channels.h"
+#include "sections/hollow.h"
 #include "sections/rolled_i.h"
 
 namespace vn {
@@ -14,7 +15,11 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   // 21 welded I double symmetric
   rows.push_back({5, 5, UpeProperties, {ChannelEffective, RolledICapacities}, -1, false, 2});
   rows.push_back({16, 16, UnpProperties, {TaperedChannelEffective, RolledICapacities}, -1, false, 2});
-  // 6-9 hollow, 10 and 11 angles, 22-28, 31, 41, 51-56
+  rows.push_back({6, 6, ShsProperties, {HollowEffective, HollowCapacities}, 0});
+  rows.push_back({7, 7, RhsProperties, {HollowEffective, HollowCapacities}, 0});
+  rows.push_back({8, 8, CfshsProperties, {HollowEffective, HollowCapacities}, 0});
+  rows.push_back({9, 9, CfrhsProperties, {HollowEffective, HollowCapacities}, 0});
+  // 10 and 11 angles, 22-28, 31, 41, 51-56
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,

@@ -21,8 +21,11 @@ constexpr double kInpSlope = static_cast<double>(87.9645996f);
 
 bool On(Boolean flag) { return flag != 0; }
 
-// Class 1 to 3 by three limits k1, k2, k3 times epsilon, else 4. The slenderness and each product
-// with epsilon are singles, and the test is strict: a slenderness on the limit takes the next class.
+// The outstand under a stress gradient: class 3 up to 21 epsilon sqrt(k-sigma).
+double KSigmaOutstand(double psi) { return 0.57 - 0.21 * psi + 0.07 * psi * psi; }
+
+}  // namespace
+
 double PureClass(Single slender, double epsilon, double k1, double k2, double k3) {
   if (slender < ToSingle(k1 * epsilon)) return 1;
   if (slender < ToSingle(k2 * epsilon)) return 2;
@@ -30,16 +33,10 @@ double PureClass(Single slender, double epsilon, double k1, double k2, double k3
   return 4;
 }
 
-// The outstand under a stress gradient: class 3 up to 21 epsilon sqrt(k-sigma).
-double KSigmaOutstand(double psi) { return 0.57 - 0.21 * psi + 0.07 * psi * psi; }
-
-// One outline point, stored as singles.
-void Point(Section& c, int i, double x, double y) {
+void SetOutlinePoint(Section& c, int i, double x, double y) {
   c.Outline[static_cast<size_t>(i)].x = ToSingle(x);
   c.Outline[static_cast<size_t>(i)].y = ToSingle(y);
 }
-
-}  // namespace
 
 void EffectiveAboutY(State& s, EffWork& w, double strips) {
   Section& c = s.section;
@@ -160,27 +157,27 @@ void IOutline(State& s, double r) {
   const double h = c.h, b = c.b, tf = c.tf, tw = c.tw;
   const double xl = (b - tw) / 2;  // left face of the web
   const double xr = xl + tw;       // right face of the web
-  Point(c, 1, 0, 0);
-  Point(c, 2, 0, tf);
-  Point(c, 3, xl - r, tf);
-  Point(c, 4, xl - 0.3 * r, tf + 0.3 * r);
-  Point(c, 5, xl, tf + r);
-  Point(c, 6, xl, h - tf - r);
-  Point(c, 7, xl - 0.3 * r, h - tf - 0.3 * r);
-  Point(c, 8, xl - r, h - tf);
-  Point(c, 9, 0, h - tf);
-  Point(c, 10, 0, h);
-  Point(c, 11, b, h);
-  Point(c, 12, b, h - tf);
-  Point(c, 13, xr + r, h - tf);
-  Point(c, 14, xr + 0.3 * r, h - tf - 0.3 * r);
-  Point(c, 15, xr, h - tf - r);
-  Point(c, 16, xr, tf + r);
-  Point(c, 17, xr + 0.3 * r, tf + 0.3 * r);
-  Point(c, 18, xr + r, tf);
-  Point(c, 19, b, tf);
-  Point(c, 20, b, 0);
-  Point(c, 21, 0, 0);
+  SetOutlinePoint(c, 1, 0, 0);
+  SetOutlinePoint(c, 2, 0, tf);
+  SetOutlinePoint(c, 3, xl - r, tf);
+  SetOutlinePoint(c, 4, xl - 0.3 * r, tf + 0.3 * r);
+  SetOutlinePoint(c, 5, xl, tf + r);
+  SetOutlinePoint(c, 6, xl, h - tf - r);
+  SetOutlinePoint(c, 7, xl - 0.3 * r, h - tf - 0.3 * r);
+  SetOutlinePoint(c, 8, xl - r, h - tf);
+  SetOutlinePoint(c, 9, 0, h - tf);
+  SetOutlinePoint(c, 10, 0, h);
+  SetOutlinePoint(c, 11, b, h);
+  SetOutlinePoint(c, 12, b, h - tf);
+  SetOutlinePoint(c, 13, xr + r, h - tf);
+  SetOutlinePoint(c, 14, xr + 0.3 * r, h - tf - 0.3 * r);
+  SetOutlinePoint(c, 15, xr, h - tf - r);
+  SetOutlinePoint(c, 16, xr, tf + r);
+  SetOutlinePoint(c, 17, xr + 0.3 * r, tf + 0.3 * r);
+  SetOutlinePoint(c, 18, xr + r, tf);
+  SetOutlinePoint(c, 19, b, tf);
+  SetOutlinePoint(c, 20, b, 0);
+  SetOutlinePoint(c, 21, 0, 0);
   c.OutlineCount = 21;
   c.OutlineInnerLast = 1;
   c.FigHeight = c.h;
@@ -192,22 +189,22 @@ void IOutline(State& s, double r) {
 void ChannelOutline(State& s, double r) {
   Section& c = s.section;
   const double h = c.h, b = c.b, tf = c.tf, tw = c.tw;
-  Point(c, 1, 0, 0);
-  Point(c, 2, 0, h);
-  Point(c, 3, b, h);
-  Point(c, 4, b, h - tf);
-  Point(c, 5, tw + r, h - tf);
-  Point(c, 6, tw + 0.3 * r, h - tf - 0.3 * r);
-  Point(c, 7, tw, h - tf - r);
-  Point(c, 8, tw, tf + r);
-  Point(c, 9, tw + 0.3 * r, tf + 0.3 * r);
-  Point(c, 10, tw + r, tf);
-  Point(c, 11, b, tf);
-  Point(c, 12, b, 0);
-  Point(c, 13, 0, 0);
+  SetOutlinePoint(c, 1, 0, 0);
+  SetOutlinePoint(c, 2, 0, h);
+  SetOutlinePoint(c, 3, b, h);
+  SetOutlinePoint(c, 4, b, h - tf);
+  SetOutlinePoint(c, 5, tw + r, h - tf);
+  SetOutlinePoint(c, 6, tw + 0.3 * r, h - tf - 0.3 * r);
+  SetOutlinePoint(c, 7, tw, h - tf - r);
+  SetOutlinePoint(c, 8, tw, tf + r);
+  SetOutlinePoint(c, 9, tw + 0.3 * r, tf + 0.3 * r);
+  SetOutlinePoint(c, 10, tw + r, tf);
+  SetOutlinePoint(c, 11, b, tf);
+  SetOutlinePoint(c, 12, b, 0);
+  SetOutlinePoint(c, 13, 0, 0);
   // The axes of the figure: through the centroid, and the shear centre behind the web.
-  Point(c, 14, c.ey, h / 2);
-  Point(c, 15, static_cast<double>(c.ey) - c.em, h / 2);
+  SetOutlinePoint(c, 14, c.ey, h / 2);
+  SetOutlinePoint(c, 15, static_cast<double>(c.ey) - c.em, h / 2);
   c.OutlineCount = 13;
   c.OutlineInnerLast = 1;
   c.FigHeight = c.h;
@@ -490,14 +487,13 @@ void RolledIEffective(State& s) {
 // ---------------------------------------------------------------------------------------------
 // Classes and resistances
 
-void RolledICapacities(State& s) {
+void ClassesAndMoments(State& s, ClassRoutine classY, ClassRoutine classZ) {
   Section& c = s.section;
   const Project& p = s.project;
   const double fyk = p.fyk;
   const double g0 = p.gammaM0;
   const double g1 = p.gammaM1;
-  const double eps = p.epsilon;
-  const double b = c.b, tf = c.tf, tw = c.tw, hw = c.hw;
+  const double b = c.b, tf = c.tf;
 
   // 1. The flanges alone.
   c.MfyRd = Div(Div((static_cast<double>(c.h) - tf) * tf * b * fyk, g0), 1e6);
@@ -512,9 +508,9 @@ void RolledICapacities(State& s) {
   c.MeffzRd = ToSingle(Div(Div(static_cast<double>(c.Weffz) * fyk, g0), 1e6));
 
   // 3. Classes of the pure cases; only the signs of the forces matter.
-  c.classN = ClassAboutY(s, 10, 0);
-  c.classMy = ClassAboutY(s, 0, 10);
-  c.classMz = ClassAboutZ(s, 0, 10);
+  c.classN = classY(s, 10, 0);
+  c.classMy = classY(s, 0, 10);
+  c.classMz = classZ(s, 0, 10);
 
   // 4. Axial resistances.
   c.NtRd = Div(Div(static_cast<double>(c.A) * fyk, g0), 1000);
@@ -547,6 +543,17 @@ void RolledICapacities(State& s) {
   c.MyRdBuck = Div(c.MyRdClass * g0, g1);
   c.MzRdBuck = Div(static_cast<double>(c.MzRdClass) * g0, g1);
   c.NRdBuck = Div(c.NcRd * g0, g1);
+}
+
+void RolledICapacities(State& s) {
+  ClassesAndMoments(s, ClassAboutY, ClassAboutZ);
+  Section& c = s.section;
+  const Project& p = s.project;
+  const double fyk = p.fyk;
+  const double g0 = p.gammaM0;
+  const double g1 = p.gammaM1;
+  const double eps = p.epsilon;
+  const double b = c.b, tf = c.tf, tw = c.tw, hw = c.hw;
 
   // 7. Shear along z.
   const double neta = p.neta;

@@ -10,6 +10,7 @@
 namespace vn {
 
 struct State;
+struct Section;
 
 // Work record of the effective-width calculation. Nothing outside the effective routines reads it.
 struct EffWork {
@@ -40,10 +41,21 @@ void EffectiveAboutY(State& s, EffWork& w, double outstands);
 // Classes of the pure cases and the resistances.
 void RolledICapacities(State& s);
 
+using ClassRoutine = double (*)(State&, double N, double M);
+// The first half of the resistances, shared by the I-like and the closed families: the flanges'
+// moments, the moments of the three moduli, the classes of the pure cases by the family's two
+// classification routines, the axial resistances, the modulus of each class and the resistances
+// of the member checks.
+void ClassesAndMoments(State& s, ClassRoutine classY, ClassRoutine classZ);
+
 // Class 1 to 4 about y under N (kN, compression positive) and M (kNm); sets classWeb and classFlange.
 double ClassAboutY(State& s, double N, double M);
 // The same about z.
 double ClassAboutZ(State& s, double N, double M);
+
+// Class 1 to 3 by three limits k1, k2, k3 times epsilon, else 4. The slenderness and each product
+// with epsilon are singles, and the test is strict: a slenderness on the limit takes the next class.
+double PureClass(Single slender, double epsilon, double k1, double k2, double k3);
 
 // Buckling factor k-sigma of an internal web part under the stress ratio psi (EN 1993-1-5 Table 4.1).
 double KSigma(double psi);
@@ -59,6 +71,9 @@ Single Scaled(const State& s, CatalogueId id, int col, double factor);
 
 // The selected row of a table (the bound of the table is the only guard).
 int SelectedRowOf(const State& s, CatalogueId id);
+
+// One point of the figure's outline, stored as singles.
+void SetOutlinePoint(Section& c, int i, double x, double y);
 
 // The 21-point outline of a double symmetric I with the fillets cut to two chords, clockwise from
 // the lower left corner of the lower flange.

@@ -53,6 +53,7 @@ struct Section {
   Single MfzRd = 0;
   double VyRd = 0, VzRd = 0;  // (d)
   Single VplRd = 0;
+  Single VplyRd = 0;  // plastic shear along y of the closed sections
   double VbyRd = 0;  // (d)
   Single VbzRd = 0;
   double NRdBuck = 0, MyRdBuck = 0, MzRdBuck = 0;  // (d)

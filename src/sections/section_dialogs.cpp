@@ -259,6 +259,12 @@ void RegisterSectionControls(ControlTable& t) {
       return EventResult{};
     });
 
+    // A rectangular tube as catalogued (h upright) or turned by 90 degrees.
+    if (d->type == 7 || d->type == 9) {
+      AddSectionDialogOption(t, d->form, "optturn1", [](State& s) { s.project.rhsTurned = 1; });
+      AddSectionDialogOption(t, d->form, "optturn0", [](State& s) { s.project.rhsTurned = 0; });
+    }
+
     if (d->type == 101 || d->type == 103) {
       const int count = d->type == 101 ? 3 : 2;
       for (int k = 1; k <= count; ++k) {

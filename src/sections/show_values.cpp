@@ -93,6 +93,13 @@ void ShowSectionValues(State& s) {
     case 103:
       DimensionBlock(out, c, Dims::BritishChannel, s.project.subFamily103 != 1);
       break;
+    case 6: case 7: case 8: case 9:
+      // One wall thickness, and the corner radius that follows from it.
+      out.Line("h =", c.h, "#0", " mm");
+      out.Line("b =", c.b, "#0", " mm");
+      out.Line("t =", c.tw, "#0.0", " mm");
+      out.Line("r =", c.r, "#0.0", " mm");
+      break;
     default:
       return;  // the other families show their own blocks
   }

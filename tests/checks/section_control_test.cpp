@@ -419,7 +419,7 @@ TEST(RunControls, ClearsTheGoverningRatiosAndLeavesNoVerdictForAFamilyWithoutCon
   ASSERT_GT(s.analysis.IRsection, 0.0);
   ASSERT_FALSE(s.checks.secText[1].Formula.empty());
   s.checks.C1 = 1.5;
-  s.project.ProfileType = 6;  // no controls of its own yet
+  s.project.ProfileType = 99;  // no family of that number
   RunControls(s);
   EXPECT_EQ(s.analysis.IRsection, 0.0);
   EXPECT_EQ(s.analysis.IRbuckling, 0.0);
