@@ -43,9 +43,11 @@ struct View {
   // fails leaves the pictures it had not reached as they were.
   std::map<std::string, draw::Drawing> pictures;
 
-  // Section dialog: the dimension and property blocks as label, value text, unit.
+  // Section dialog: the dimension and property blocks as label, value text, unit, and the text
+  // shown when the mouse rests on the label, if any.
   struct Line {
     std::string label, value, unit;
+    std::string tip;
   };
   std::vector<Line> sectionValues;
 

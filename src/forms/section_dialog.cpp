@@ -30,7 +30,8 @@ void ValueBlock::setLines(const std::vector<View::Line>& lines) {
   const bool same = lines.size() == lines_.size() &&
                     std::equal(lines.begin(), lines.end(), lines_.begin(),
                                [](const View::Line& a, const View::Line& b) {
-                                 return a.label == b.label && a.value == b.value && a.unit == b.unit;
+                                 return a.label == b.label && a.value == b.value &&
+                                        a.unit == b.unit && a.tip == b.tip;
                                });
   if (same) return;
   lines_ = lines;
@@ -44,6 +45,7 @@ void ValueBlock::setLines(const std::vector<View::Line>& lines) {
     auto* value = new QLabel(QString::fromStdString(l.value));
     auto* unit = new QLabel(QString::fromStdString(l.unit).trimmed());
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    if (!l.tip.empty()) label->setToolTip(QString::fromStdString(l.tip));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value->setObjectName(QString::fromStdString(l.label));

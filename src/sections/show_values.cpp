@@ -99,6 +99,9 @@ void ShowSectionValues(State& s) {
       out.Line("b =", c.b, "#0", " mm");
       out.Line("t =", c.tw, "#0.0", " mm");
       out.Line("r =", c.r, "#0.0", " mm");
+      if (s.project.ProfileType == 8 || s.project.ProfileType == 9)
+        s.view.sectionValues.back().tip =
+            " r = 2*t ; t<=6 \n r = 2.5*t ; 6<t<=10 \n r = 3*t ; t>10 ";
       break;
     default:
       return;  // the other families show their own blocks
