@@ -1,6 +1,7 @@
 // The buckling control of the I family (rolled and welded I, channels, British sections, and the
 // general section): the lines about y and about z of 6.3.1 and 6.3.3, and the lateral torsional
-// line of 6.3.2.
+// line of 6.3.2. Its twin for the welded I with unequal flanges takes the moment resistance of the
+// flange that the governing moment compresses.
 //
 // Which case gets what:
 //   NEd < 0, any moments        the LT line only
@@ -36,7 +37,20 @@ std::string Limit(const State& s, const std::string& tail) {
   return " < " + F1(s, s.analysis.IRlimit) + " (" + tail;
 }
 
-void LateralTorsionalLine(State& s, double& IRlt) {
+// What the single symmetric I does differently: the resistance of the flange in compression, the
+// magnitude of My in the kzy term without axial force, and the tail of the LT line with a part.
+struct Variant {
+  bool singleSym = false;
+};
+
+// The moment resistance of the terms of 6.61 and 6.62.
+double MomentResistance(const State& s, const Variant& v) {
+  const Section& c = s.section;
+  if (!v.singleSym) return c.MyRdBuck;
+  return s.analysis.MyGov > 0 ? c.MyRdBuckPos : c.MyRdBuckNeg;
+}
+
+void LateralTorsionalLine(State& s, const Variant& v, double& IRlt) {
   Project& p = s.project;
   Checks& k = s.checks;
   LateralTorsionalControl(s);
@@ -49,27 +63,29 @@ void LateralTorsionalLine(State& s, double& IRlt) {
   if (p.ltbRestraints == 0)
     t.Limit = Limit(s, "Ch 6.3.2)");
   else
-    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) + ";  (Ch 6.3.2))");
+    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) +
+                           (v.singleSym ? ");  (Ch 6.3.2))" : ";  (Ch 6.3.2))"));
   k.colLT = Colour(s, IRlt);
 }
 
 // The terms of My and Mz added to the flexural lines (6.61 about y, 6.62 about z).
-void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
+void MomentTerms(State& s, const Variant& v, bool yLine, bool zLine, double& IRy, double& IRz) {
   const Analysis& an = s.analysis;
   const Section& c = s.section;
   Checks& k = s.checks;
+  const double MyRd = MomentResistance(s, v);
   ControlText& ty = k.buckTextY;
   ControlText& tz = k.buckTextZ;
   if (an.MyGov != 0) {
     const double m = std::fabs(an.MyGov);
-    const std::string tail = "*" + F1(s, m) + "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
+    const std::string tail = "*" + F1(s, m) + "/(" + F2(s, k.xLT) + "*" + F1(s, MyRd) + ")";
     if (yLine) {
-      IRy += Div(k.kyy * m, k.xLT * c.MyRdBuck);
+      IRy += Div(k.kyy * m, k.xLT * MyRd);
       ty.Formula += "+kyy*My,Ed/(xLT*My,Rd) ";
       ty.Numbers += "+" + F2(s, k.kyy) + tail;
     }
     if (zLine) {
-      IRz += Div(k.kzy * m, k.xLT * c.MyRdBuck);
+      IRz += Div(k.kzy * m, k.xLT * MyRd);
       tz.Formula += "+kzy*My,Ed/(xLT*My,Rd) ";
       tz.Numbers += "+" + F2(s, k.kzy) + tail;
     }
@@ -101,16 +117,18 @@ void MomentTerms(State& s, bool yLine, bool zLine, double& IRy, double& IRz) {
 }
 
 // Biaxial bending without axial force. The z line keeps the sign of MyGov: a sagging and a hogging
-// maximum give different ratios, as the program has always reported them.
-void BiaxialWithoutAxialForce(State& s, double& IRy, double& IRz) {
+// maximum give different ratios, as the program has always reported them; the single symmetric I
+// takes the magnitude there.
+void BiaxialWithoutAxialForce(State& s, const Variant& v, double& IRy, double& IRz) {
   const Analysis& an = s.analysis;
   const Section& c = s.section;
   Checks& k = s.checks;
-  const double My = an.MyGov, Mz = an.MzGov;
-  const std::string xm = "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
+  const double My = v.singleSym ? std::fabs(an.MyGov) : an.MyGov, Mz = an.MzGov;
+  const double MyRd = MomentResistance(s, v);
+  const std::string xm = "/(" + F2(s, k.xLT) + "*" + F1(s, MyRd) + ")";
   const std::string zm = "*" + F1(s, Mz) + "/" + F1(s, c.MzRdBuck);
 
-  IRy = Div(k.kyy * std::fabs(My), k.xLT * c.MyRdBuck) + Div(k.kyz * Mz, c.MzRdBuck);
+  IRy = Div(k.kyy * std::fabs(My), k.xLT * MyRd) + Div(k.kyz * Mz, c.MzRdBuck);
   ControlText& ty = k.buckTextY;
   ty.Formula = "IR = kyy*My,Ed/(xLT*My,Rd) ";
   ty.Formula += " + kyz*Mz,Ed/Mz,Rd) ";
@@ -119,7 +137,7 @@ void BiaxialWithoutAxialForce(State& s, double& IRy, double& IRz) {
   ty.Limit = Limit(s, "Ch 6.3.1)");
   k.colBuckY = Colour(s, IRy);
 
-  IRz = Div(k.kzy * My, k.xLT * c.MyRdBuck) + Div(k.kzz * Mz, c.MzRdBuck);
+  IRz = Div(k.kzy * My, k.xLT * MyRd) + Div(k.kzz * Mz, c.MzRdBuck);
   ControlText& tz = k.buckTextZ;
   tz.Formula = "IR = kzy*My,Ed/(xLT*My,Rd) ";
   tz.Formula += " + kzz*Mz,Ed/Mz,Rd ";
@@ -129,9 +147,7 @@ void BiaxialWithoutAxialForce(State& s, double& IRy, double& IRz) {
   k.colBuckZ = Colour(s, IRz);
 }
 
-}  // namespace
-
-void BucklingControlI(State& s) {
+void BucklingControl(State& s, const Variant& v) {
   Project& p = s.project;
   Analysis& an = s.analysis;
   Checks& k = s.checks;
@@ -142,7 +158,7 @@ void BucklingControlI(State& s) {
   double IRy = 0, IRz = 0, IRlt = 0;
 
   if (p.ltbOn == 1)
-    LateralTorsionalLine(s, IRlt);
+    LateralTorsionalLine(s, v, IRlt);
   else
     k.xLT = 1;
 
@@ -189,14 +205,14 @@ void BucklingControlI(State& s) {
     } else {
       InteractionFactors(s);
       if (p.calcError != 0) return;
-      MomentTerms(s, yLine, zLine, IRy, IRz);
+      MomentTerms(s, v, yLine, zLine, IRy, IRz);
     }
   }
 
   if (NEd == 0 && an.MyGov != 0 && an.MzGov != 0) {
     InteractionFactors(s);
     if (p.calcError != 0) return;
-    BiaxialWithoutAxialForce(s, IRy, IRz);
+    BiaxialWithoutAxialForce(s, v, IRy, IRz);
   }
 
   k.IRbuckY = IRy;
@@ -205,5 +221,11 @@ void BucklingControlI(State& s) {
   an.IRbuckling = std::max(IRy, IRz);
   if (IRlt > an.IRbuckling) an.IRbuckling = IRlt;
 }
+
+}  // namespace
+
+void BucklingControlI(State& s) { BucklingControl(s, Variant{}); }
+
+void BucklingControlSingleSym(State& s) { BucklingControl(s, Variant{true}); }
 
 }  // namespace vn

@@ -19,6 +19,12 @@ void ComputeMNyRd(State& s);
 // 6.2.9.1 (5): MzRd reduced for the axial force.
 void ComputeMNzRd(State& s);
 
+// The single symmetric I: the moment resistance of class `cls` for the sign of MyEd, reduced for a
+// shear VzEd above half VzRd (sets rhoZ); no cap by a class of pure bending.
+double MyRdSigned(State& s, double cls, double MyEd);
+// Its MN,y,Rd, with the web share a = (A - (tf1 b1 + b2 + tf2)) / A.
+void MNyRdSingleSym(State& s);
+
 // The Limit text of a line at a check point: " < " + IRlimit + " (" + x/L + tail.
 std::string PointLimit(const State& s, double xRel, const char* tail);
 
