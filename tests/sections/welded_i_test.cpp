@@ -3,6 +3,9 @@
 // (epsilon = 1), gammaM0 = gammaM1 = 1, eta = 1.
 #include <gtest/gtest.h>
 
+#include <string>
+
+#include "core/events.h"
 #include "core/pipeline.h"
 #include "sections/section_fixture.h"
 #include "sections/welded_i.h"
@@ -228,7 +231,13 @@ TEST(SingleSymClasses, ClassFunctionBySignOfTheForces) {
 // the web hw = 574, d = 566, d/tw = 70.75 gives lamdaP = 1.245599, rho = 0.661030, so
 // Aeff = 13792 - 2*92*0.062774*6 - 0.338970*566*8 = 13792 - 69.30 - 1534.86 = 12187.84.
 // The upper flange class 4 (15.33 >= 14) makes the positive side effective and smaller than the
-// negative side's.
+// negative side's. Bending with the upper flange compressed: ezb = 159.958, Iy = 634 741 053;
+// the flange loses 2*(1 - 0.937226)*92*6 = 69.30 mm2, the centroid from the upper edge moves to
+// (440.042*13792 - 5.7753*36)/13722.70 = 442.249, bc = 442.249 - 6 - 4 = 432.249,
+// psi = -(566 - 432.249)/432.249 = -0.309431, k-sigma = 10.6927, lamdaP = 70.75/(28.4*3.26998) =
+// 0.761840 within 0.5 + sqrt(0.085 + 0.055*0.309431) = 0.819404: the web stays whole.
+// I = 440.042^2*13792 + Iy - 5.7753*6^3/6 - 5.7753*6*3^2*2 - 13722.70*442.249^2 = 621 436 867,
+// Weff,y top = I/442.249 = 1 405 174 (Wel,yt = 1 442 456), MeffyRd1 = 330.216 kNm.
 TEST(SingleSymEffective, ThinUpperFlange) {
   const State s = SingleSym(600, 200, 400, 8, 6, 20);
   const Section& c = s.section;
@@ -240,6 +249,8 @@ TEST(SingleSymEffective, ThinUpperFlange) {
   EXPECT_LT(c.Weffy1, c.Wyt);
   EXPECT_LT(c.MyRdPos, c.MyRdNeg);
   EXPECT_EQ(c.Weffy1, std::min<double>(c.WeffyTop, c.WeffyBot));
+  EXPECT_TRUE(Near(c.WeffyTop, 1405174, kChain));
+  EXPECT_TRUE(Near(c.MyRdPos, 330.216, kChain));
 }
 
 // A web of zero height is no section: the calculation ends in the fault.
@@ -248,6 +259,46 @@ TEST(SingleSymProperties, FlangesFillingTheHeightFail) {
   s.project.ProfileType = 22;
   s.project.p22 = {40, 200, 400, 9, 20, 20};
   EXPECT_THROW(ComputeSection(s), CalcFault);
+}
+
+// ---- The dialogs, on the started program (S355, epsilon = 0.8136) ----
+
+std::string ValueOf(const State& s, const std::string& label, int occurrence = 1) {
+  for (const auto& line : s.view.sectionValues)
+    if (line.label == label && --occurrence == 0) return line.value;
+  return "(none)";
+}
+
+// I 500x250x8x16 in S355: d/tw = 57.5 is class 4 in compression (>= 42 epsilon = 34.2) and class 1
+// in bending (< 72 epsilon = 58.58); c/tf = 7.3125 < 9 epsilon = 7.3226: class 1.
+// My,Rd = 2 374 048*355/1e6 = 842.8 kNm.
+TEST(WeldedIDialogs, DoubleSymmetricShowsTheRolledBlock) {
+  State s = StartedState();
+  for (const auto& [field, text] : {std::pair{"p21.isth", "500"}, {"p21.istb1", "250"},
+                                    {"p21.isttw", "8"}, {"p21.isttf", "16"}})
+    ASSERT_FALSE(Fire(s, field, text).refused);
+  EXPECT_EQ(s.project.ProfileType, 21);
+  EXPECT_EQ(ValueOf(s, "A ="), "11744");
+  EXPECT_EQ(ValueOf(s, "Cross Section Class: "), "4/1/1");
+  EXPECT_EQ(ValueOf(s, "My,Rd ="), "842.8");
+  EXPECT_EQ(ValueOf(s, "Wpl,y ="), "2.374E+6");
+}
+
+// The single symmetric I shows a class and a resistance for each flange in compression.
+TEST(WeldedIDialogs, SingleSymmetricShowsBothFlanges) {
+  State s = StartedState();
+  for (const auto& [field, text] :
+       {std::pair{"p22.isth", "600"}, {"p22.istb1", "200"}, {"p22.istb2", "400"}, {"p22.isttw", "9"},
+        {"p22.isttf1", "20"}, {"p22.isttf2", "20"}})
+    ASSERT_FALSE(Fire(s, field, text).refused);
+  EXPECT_EQ(s.project.ProfileType, 22);
+  EXPECT_EQ(ValueOf(s, "Wel,yt ="), "2.886E+6");
+  EXPECT_EQ(ValueOf(s, "Wel,yb ="), "4.581E+6");
+  EXPECT_EQ(ValueOf(s, "Top flange in compression"), "");
+  EXPECT_EQ(ValueOf(s, "Bottom flange in compression"), "");
+  // Elastic on both sides in S355 (c2/tf2 = 9.575 > 10 epsilon): 2 886 218*355/1e6 = 1024.6.
+  EXPECT_EQ(ValueOf(s, "My,Rd =", 1), "1024.6");
+  EXPECT_EQ(ValueOf(s, "My,Rd =", 2), "1024.6");
 }
 
 }  // namespace
