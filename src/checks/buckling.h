@@ -26,14 +26,18 @@ double FlexuralChi(double lamda, double alpha);
 // ---- The buckling control (buckling_i.cpp) ----
 
 // What a family changes in the buckling control of the I family: whether it has the lateral
-// torsional line, how the moment terms join the formula ("+" or " + "), and whether the z line of
-// biaxial bending without axial force takes the magnitude of MyGov.
+// torsional line, how the moment terms join the formula ("+" or " + "), whether the z line of
+// biaxial bending without axial force takes the magnitude of MyGov, and whether the moment
+// resistance is that of the flange the governing moment compresses (the single symmetric I, whose
+// LT line with a part closes with an extra bracket).
 struct BucklingStyle {
   bool lateralTorsional;
   const char* join;
   bool absMyBiaxial;
+  bool singleSym = false;
 };
 inline constexpr BucklingStyle kBucklingStyleI{true, "+", false};
+inline constexpr BucklingStyle kBucklingStyleSingleSym{true, "+", true, true};
 // The lines about y and z, and LT where the style has it.
 void RunBucklingControl(State& s, const BucklingStyle& style);
 

@@ -1,6 +1,7 @@
 // The buckling control of the I family (rolled and welded I, channels, British sections, and the
 // general section): the lines about y and about z of 6.3.1 and 6.3.3, and the lateral torsional
-// line of 6.3.2.
+// line of 6.3.2. Its twin for the welded I with unequal flanges takes the moment resistance of the
+// flange that the governing moment compresses; the closed sections have no LT line.
 //
 // Which case gets what:
 //   NEd < 0, any moments        the LT line only
@@ -36,7 +37,14 @@ std::string Limit(const State& s, const std::string& tail) {
   return " < " + F1(s, s.analysis.IRlimit) + " (" + tail;
 }
 
-void LateralTorsionalLine(State& s, double& IRlt) {
+// The moment resistance of the terms of 6.61 and 6.62.
+double MomentResistance(const State& s, const BucklingStyle& style) {
+  const Section& c = s.section;
+  if (!style.singleSym) return c.MyRdBuck;
+  return s.analysis.MyGov > 0 ? c.MyRdBuckPos : c.MyRdBuckNeg;
+}
+
+void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt) {
   Project& p = s.project;
   Checks& k = s.checks;
   LateralTorsionalControl(s);
@@ -49,7 +57,8 @@ void LateralTorsionalLine(State& s, double& IRlt) {
   if (p.ltbRestraints == 0)
     t.Limit = Limit(s, "Ch 6.3.2)");
   else
-    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) + ";  (Ch 6.3.2))");
+    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) +
+                           (style.singleSym ? ");  (Ch 6.3.2))" : ";  (Ch 6.3.2))"));
   k.colLT = Colour(s, IRlt);
 }
 
@@ -60,18 +69,19 @@ void MomentTerms(State& s, const BucklingStyle& style, bool yLine, bool zLine, d
   const Analysis& an = s.analysis;
   const Section& c = s.section;
   Checks& k = s.checks;
+  const double MyRd = MomentResistance(s, style);
   ControlText& ty = k.buckTextY;
   ControlText& tz = k.buckTextZ;
   if (an.MyGov != 0) {
     const double m = std::fabs(an.MyGov);
-    const std::string tail = "*" + F1(s, m) + "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
+    const std::string tail = "*" + F1(s, m) + "/(" + F2(s, k.xLT) + "*" + F1(s, MyRd) + ")";
     if (yLine) {
-      IRy += Div(k.kyy * m, k.xLT * c.MyRdBuck);
+      IRy += Div(k.kyy * m, k.xLT * MyRd);
       ty.Formula += j + "kyy*My,Ed/(xLT*My,Rd) ";
       ty.Numbers += "+" + F2(s, k.kyy) + tail;
     }
     if (zLine) {
-      IRz += Div(k.kzy * m, k.xLT * c.MyRdBuck);
+      IRz += Div(k.kzy * m, k.xLT * MyRd);
       tz.Formula += j + "kzy*My,Ed/(xLT*My,Rd) ";
       tz.Numbers += "+" + F2(s, k.kzy) + tail;
     }
@@ -103,17 +113,19 @@ void MomentTerms(State& s, const BucklingStyle& style, bool yLine, bool zLine, d
 }
 
 // Biaxial bending without axial force. The z line keeps the sign of MyGov: a sagging and a hogging
-// maximum give different ratios, as the program has always reported them.
+// maximum give different ratios, as the program has always reported them; the single symmetric I
+// and the closed sections take the magnitude there.
 void BiaxialWithoutAxialForce(State& s, const BucklingStyle& style, double& IRy, double& IRz) {
   const Analysis& an = s.analysis;
   const Section& c = s.section;
   Checks& k = s.checks;
   const double My = style.absMyBiaxial ? std::fabs(an.MyGov) : an.MyGov;
   const double Mz = an.MzGov;
-  const std::string xm = "/(" + F2(s, k.xLT) + "*" + F1(s, c.MyRdBuck) + ")";
+  const double MyRd = MomentResistance(s, style);
+  const std::string xm = "/(" + F2(s, k.xLT) + "*" + F1(s, MyRd) + ")";
   const std::string zm = "*" + F1(s, Mz) + "/" + F1(s, c.MzRdBuck);
 
-  IRy = Div(k.kyy * std::fabs(My), k.xLT * c.MyRdBuck) + Div(k.kyz * Mz, c.MzRdBuck);
+  IRy = Div(k.kyy * std::fabs(My), k.xLT * MyRd) + Div(k.kyz * Mz, c.MzRdBuck);
   ControlText& ty = k.buckTextY;
   ty.Formula = "IR = kyy*My,Ed/(xLT*My,Rd) ";
   ty.Formula += " + kyz*Mz,Ed/Mz,Rd) ";
@@ -122,7 +134,7 @@ void BiaxialWithoutAxialForce(State& s, const BucklingStyle& style, double& IRy,
   ty.Limit = Limit(s, "Ch 6.3.1)");
   k.colBuckY = Colour(s, IRy);
 
-  IRz = Div(k.kzy * My, k.xLT * c.MyRdBuck) + Div(k.kzz * Mz, c.MzRdBuck);
+  IRz = Div(k.kzy * My, k.xLT * MyRd) + Div(k.kzz * Mz, c.MzRdBuck);
   ControlText& tz = k.buckTextZ;
   tz.Formula = "IR = kzy*My,Ed/(xLT*My,Rd) ";
   tz.Formula += " + kzz*Mz,Ed/Mz,Rd ";
@@ -136,6 +148,8 @@ void BiaxialWithoutAxialForce(State& s, const BucklingStyle& style, double& IRy,
 
 void BucklingControlI(State& s) { RunBucklingControl(s, kBucklingStyleI); }
 
+void BucklingControlSingleSym(State& s) { RunBucklingControl(s, kBucklingStyleSingleSym); }
+
 void RunBucklingControl(State& s, const BucklingStyle& style) {
   Project& p = s.project;
   Analysis& an = s.analysis;
@@ -147,7 +161,7 @@ void RunBucklingControl(State& s, const BucklingStyle& style) {
   double IRy = 0, IRz = 0, IRlt = 0;
 
   if (style.lateralTorsional && p.ltbOn == 1)
-    LateralTorsionalLine(s, IRlt);
+    LateralTorsionalLine(s, style, IRlt);
   else
     k.xLT = 1;
 

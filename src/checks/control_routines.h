@@ -15,5 +15,8 @@ void BucklingControlHollow(State& s);
 // The shear resistances of a closed section at a point: the two webs along z, the two flanges
 // along y, each by the shear buckling of its walls.
 void HollowShearResistances(State& s, double NEd, double MyEd);
+// Welded I with unequal flanges (type 22): the I controls with a moment about y that keeps its sign.
+void SectionControlSingleSym(State& s);
+void BucklingControlSingleSym(State& s);
 
 }  // namespace vn

@@ -12,11 +12,15 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
       // Rolled I, channels, British sections: the I family's controls, buckling always.
       {1, 5, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {15, 16, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
+      {21, 21, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {101, 103, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       // Hollow sections.
       {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
        BucklingWhen::Always},
       // The welded I (21) and the other families join with their section routines.
+      // Welded I with unequal flanges: the twins that keep the sign of My.
+      {22, 22, BeforeControl::Nothing, SectionControlSingleSym, BucklingControlSingleSym,
+       BucklingWhen::Always},
   };
   return rows;
 }

@@ -41,6 +41,11 @@ struct SectionControlRules {
 
 // The control of 6.2 at every check point by the given rules.
 void RunSectionControl(State& s, const SectionControlRules& rules);
+// The single symmetric I: the moment resistance of class `cls` for the sign of MyEd, reduced for a
+// shear VzEd above half VzRd (sets rhoZ); no cap by a class of pure bending.
+double MyRdSigned(State& s, double cls, double MyEd);
+// Its MN,y,Rd, with the web share a = (A - (tf1 b1 + b2 + tf2)) / A.
+void MNyRdSingleSym(State& s);
 
 // The Limit text of a line at a check point: " < " + IRlimit + " (" + x/L + tail.
 std::string PointLimit(const State& s, double xRel, const char* tail);

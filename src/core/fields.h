@@ -86,6 +86,11 @@ void VisitSection(V& v, S& c) {
   VN_F(c, MeffyRd); VN_F(c, MeffzRd); VN_F(c, MyRdClass); VN_F(c, MzRdClass); VN_F(c, MfyRd);
   VN_F(c, MfzRd); VN_F(c, VyRd); VN_F(c, VzRd); VN_F(c, VplRd); VN_F(c, VbyRd); VN_F(c, VbzRd);
   VN_F(c, NRdBuck); VN_F(c, MyRdBuck); VN_F(c, MzRdBuck);
+  VN_F(c, c1); VN_F(c, c2); VN_F(c, zpl); VN_F(c, WeffyTop); VN_F(c, WeffyBot); VN_F(c, WeffyTop2);
+  VN_F(c, WeffyBot2); VN_F(c, Weffy1); VN_F(c, Weffy2); VN_F(c, MeffyRd1); VN_F(c, MeffyRd2);
+  VN_F(c, classMyPos); VN_F(c, classMyNeg); VN_F(c, WyPos); VN_F(c, WyNeg); VN_F(c, MyRdPos);
+  VN_F(c, MyRdNeg); VN_F(c, MyRdBuckPos); VN_F(c, MyRdBuckNeg); VN_F(c, betaf); VN_F(c, betaf2);
+  VN_F(c, zs); VN_F(c, psif); VN_F(c, psif2); VN_F(c, zj); VN_F(c, zj2);
   v.Array("Outline", c.Outline, [&](auto& pt) { VN_F(pt, x); VN_F(pt, y); });
   VN_F(c, OutlineCount); VN_F(c, OutlineInnerLast); VN_F(c, OutlineRects); VN_F(c, FigHeight);
   VN_F(c, FigWidth); VN_F(c, FigCentroidZ); VN_F(c, FigCentroidY); VN_F(c, ltbRelevant);

@@ -4,6 +4,7 @@
 #include "sections/channels.h"
 #include "sections/hollow.h"
 #include "sections/rolled_i.h"
+#include "sections/welded_i.h"
 
 namespace vn {
 
@@ -12,14 +13,16 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   // In the order the dispatcher tests them: 1-4, 15, 21, then 5, 16, 6-9, 10, 11, 22 ... 101, 102, 103.
   rows.push_back({1, 4, RolledIProperties, {RolledIEffective, RolledICapacities}, -1});
   rows.push_back({15, 15, InpProperties, {RolledIEffective, RolledICapacities}, -1});
-  // 21 welded I double symmetric
+  rows.push_back({21, 21, WeldedIDoubleProperties, {RolledIEffective, RolledICapacities}, -1});
   rows.push_back({5, 5, UpeProperties, {ChannelEffective, RolledICapacities}, -1, false, 2});
   rows.push_back({16, 16, UnpProperties, {TaperedChannelEffective, RolledICapacities}, -1, false, 2});
   rows.push_back({6, 6, ShsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({7, 7, RhsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({8, 8, CfshsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({9, 9, CfrhsProperties, {HollowEffective, HollowCapacities}, 0});
-  // 10 and 11 angles, 22-28, 31, 41, 51-56
+  // 10 and 11 angles
+  rows.push_back({22, 22, SingleSymProperties, {SingleSymEffective, SingleSymClasses}, -1});
+  // 23-28, 31, 41, 51-56
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,

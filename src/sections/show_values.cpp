@@ -68,6 +68,43 @@ void PropertyBlock(Block& out, const Section& c) {
   out.Line("Mz,Rd =", c.MzRdClass, "#0.0", " kNm");
 }
 
+// The single symmetric I: the moduli of both fibres, and the class, effective modulus and moment
+// resistance for each flange in compression.
+void SingleSymBlock(Block& out, const Section& c) {
+  const bool comma = out.s.decimalComma;
+  out.Line("A =", c.A, "##0", " mm2");
+  out.Line("Ix =", c.Ix, "0.000E+0", " mm4");
+  out.Line("Iy =", c.Iy, "0.000E+0", " mm4");
+  out.Line("Iz =", c.Iz, "0.000E+0", " mm4");
+  out.Line("ez =", c.ez, "#0.0", " mm");
+  out.Line("Wel,yt =", c.Wyt, "0.000E+0", " mm3");
+  out.Line("Wel,yb =", c.Wyb, "0.000E+0", " mm3");
+  out.Line("Wel,z =", c.Welz, "0.000E+0", " mm3");
+  out.Line("Wpl,y =", c.Wply, "0.000E+0", " mm3");
+  out.Line("Wpl,z =", c.Wplz, "0.000E+0", " mm3");
+  out.Line("Iw =", c.Iw, "0.000E+0", " mm6");
+  out.Line("g =", c.g, "#0.0", " kg/m");
+  out.Line("S =", c.S, "#0.000", " m2/m");
+  out.Line("Aeff =", c.Aeff, "##0", " mm2");
+  out.Line("Weff,z =", c.Weffz, "0.000E+0", " mm3");
+  out.s.view.sectionValues.push_back(
+      {"Cross Section Class: ", FormatNumber(c.classN, "#0", comma) + "/" + FormatNumber(c.classMz, "#0", comma),
+       "(N/Mz)"});
+  out.Line("Nt,Rd =", c.NtRd, "#0.0", " kN");
+  out.Line("Nc,Rd =", c.NcRd, "#0.0", " kN");
+  out.Line("Vc,y,Rd =", c.VbyRd, "#0.0", " kN");
+  out.Line("Vc,z,Rd =", c.VbzRd, "#0.0", " kN");
+  out.Line("Mz,Rd =", c.MzRdClass, "#0.0", " kNm");
+  auto flange = [&](const char* title, double cls, double Weff, double MyRd) {
+    out.s.view.sectionValues.push_back({title, "", ""});
+    out.s.view.sectionValues.push_back({"Cross Section Class: ", FormatNumber(cls, "#0", comma), "(My)"});
+    out.Line("Weff,y =", Weff, "0.000E+0", " mm3");
+    out.Line("My,Rd =", MyRd, "#0.0", " kNm");
+  };
+  flange("Top flange in compression", c.classMyPos, c.Weffy1, c.MyRdPos);
+  flange("Bottom flange in compression", c.classMyNeg, c.Weffy2, c.MyRdNeg);
+}
+
 }  // namespace
 
 void ShowSectionValues(State& s) {
@@ -103,6 +140,11 @@ void ShowSectionValues(State& s) {
         s.view.sectionValues.back().tip =
             " r = 2*t ; t<=6 \n r = 2.5*t ; 6<t<=10 \n r = 3*t ; t>10 ";
       break;
+    case 21:
+      break;  // the typed dimensions stand in the dialog's fields
+    case 22:
+      SingleSymBlock(out, c);
+      return;
     default:
       return;  // the other families show their own blocks
   }
