@@ -61,6 +61,11 @@ void FactorsMethod2(State& s);
 // The factors of the method chosen in the settings, with their equivalent moment factors; Method 1
 // may set calcError, after which the caller stops.
 void InteractionFactors(State& s);
+// Angles, Method 1: Cmu and Cmv of Table A.2 about the principal axes (u with the y diagram, v with
+// the z diagram), then kvv and kvu of the line about v. FactorsUV sets calcError beyond Ncru or
+// Ncrv, after which the caller stops.
+void EquivalentMomentUV(State& s);
+void FactorsUV(State& s);
 // Whether anything acts in the plane of z (My, Vz) and of y (Mz, Vy), for the shape fallback of
 // Method 2.
 void LoadPlanes(State& s);

@@ -9,4 +9,8 @@ struct State;
 void SectionControlI(State& s);
 void BucklingControlI(State& s);
 
+// Angles: the corner sums in y, z and in u, v; buckling about y, z and the weak principal axis v.
+void SectionControlAngle(State& s);
+void BucklingControlAngle(State& s);
+
 }  // namespace vn

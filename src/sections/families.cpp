@@ -1,5 +1,6 @@
 #include "sections/families.h"
 
+#include "sections/angles.h"
 #include "sections/british.h"
 #include "sections/channels.h"
 #include "sections/rolled_i.h"
@@ -14,7 +15,10 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   // 21 welded I double symmetric
   rows.push_back({5, 5, UpeProperties, {ChannelEffective, RolledICapacities}, -1, false, 2});
   rows.push_back({16, 16, UnpProperties, {TaperedChannelEffective, RolledICapacities}, -1, false, 2});
-  // 6-9 hollow, 10 and 11 angles, 22-28, 31, 41, 51-56
+  // 6-9 hollow
+  rows.push_back({10, 10, EqualAngleProperties, {AngleClassEqual}, 0});
+  rows.push_back({11, 11, UnequalAngleProperties, {AngleClassUnequal}, 0});
+  // 22-28, 31, 41, 51-56
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,

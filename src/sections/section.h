@@ -21,6 +21,7 @@ struct Section {
   Single hw = 0, d = 0, c = 0, tmax = 0;
   Single b1 = 0, tf1 = 0, b2 = 0, tf2 = 0, hweb = 0;
   Single ey = 0, em = 0;
+  Single c1 = 0, c2 = 0;  // outstands of the two legs of an unequal angle
 
   // Properties
   Single A = 0, Af = 0, Aw = 0;
@@ -56,6 +57,18 @@ struct Section {
   double VbyRd = 0;  // (d)
   Single VbzRd = 0;
   double NRdBuck = 0, MyRdBuck = 0, MzRdBuck = 0;  // (d)
+
+  // Angles: the three corner points (1 and 3 the leg ends, 2 the heel), their distances from the
+  // principal axes, the moduli and resistances about u and v at each point (index 0 unused).
+  std::array<Single, 4> uPt{}, vPt{};  // mm, from the v axis and from the u axis
+  std::array<Single, 4> Wu{}, Wv{};
+  std::array<double, 4> MuRd{}, MvRd{};  // (d) kNm
+  double MuRdMin = 0;                    // (d)
+  Single MvRdMin = 0;
+  double MytRd = 0, MybRd = 0, MzlRd = 0;  // (d) kNm, from the fibre moduli
+  Single MzrRd = 0;
+  double MelyAngle = 0;  // (d)
+  Single MelzAngle = 0;
 
   // Figure data for the section figure
   std::array<OutlinePoint, 82> Outline{};  // points 1..81
