@@ -43,7 +43,7 @@ void AngleOutline(State& s) {
   c.FigCentroidY = c.eyc;
   // u runs down to the right at alfa below y.
   const double a = c.alfa * PiSingle / 180;
-  const double half = 0.55 * std::max(h, b);
+  const double half = 0.45 * std::max(h, b);
   const double du = half * std::cos(a), dv = half * std::sin(a);
   Point(c, 10, c.FigCentroidY - du, c.FigCentroidZ + dv);
   Point(c, 11, c.FigCentroidY + du, c.FigCentroidZ - dv);

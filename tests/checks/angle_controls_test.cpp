@@ -188,6 +188,7 @@ TEST(BucklingControlAngle, SlendernessOfALegConnectedAngle) {
   for (const Case& k : cases) {
     State s = Strut("30");
     Do(s, k.option);
+    EXPECT_EQ(s.view.value["p10.angle"], std::string(k.option).back() - '0');
     const Checks& c = s.checks;
     EXPECT_TRUE(Near(c.Ncry, 915.57858, kChain)) << k.option;
     EXPECT_TRUE(Near(c.Ncrv, 376.43907, kChain)) << k.option;

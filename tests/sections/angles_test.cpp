@@ -5,6 +5,8 @@
 // formulas of the section, in decimals.
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "core/pipeline.h"
 #include "core/state.h"
 #include "sections/angles.h"
@@ -230,6 +232,27 @@ TEST(Angles, NameOutlineAndFigure) {
   State u = Unequal100x75(kS235);
   EXPECT_EQ(u.view.text["p11.oname"], "L 100x75x10");
   EXPECT_EQ(u.section.ltbRelevant, 0);
+}
+
+// The dialog shows the principal values and the least resistances about u and v.
+TEST(Angles, DialogShowsThePrincipalValues) {
+  State s = Equal100(kS235);
+  ShowSectionValues(s);
+  auto line = [&](const std::string& label) -> std::string {
+    for (const auto& l : s.view.sectionValues)
+      if (l.label == label) return l.value + "|" + l.unit;
+    return "missing";
+  };
+  EXPECT_EQ(line("t ="), "10.0| mm");
+  EXPECT_EQ(line("alfa ="), "45.0| deg");
+  EXPECT_EQ(line("Iv ="), "7.265E+5| mm4");
+  EXPECT_EQ(line("Wel,v ="), "1.821E+4| mm3 (min)");
+  EXPECT_EQ(line("Cross Section Class: "), "3/3/3|(N/My/Mz)");
+  EXPECT_EQ(line("Nc,Rd ="), "451.2| kN");
+  EXPECT_EQ(line("Vc,z,Rd ="), "81.4| kN");
+  EXPECT_EQ(line("Mu,Rd ="), "9.8| kNm (min)");
+  EXPECT_EQ(line("Mv,Rd ="), "4.3| kNm (min)");
+  EXPECT_EQ(line("Wpl,y ="), "missing");  // an angle has no plastic moduli
 }
 
 TEST(Angles, AnEmptyRowEndsInTheCalculationFault) {
