@@ -38,13 +38,8 @@ State Equal100(int grade) {
 TEST(EqualAngle, L100x100x10MatchesTheTableAndTheHandCalculation) {
   State s = Equal100(kS235);
   const Section& c = s.section;
-  EXPECT_EQ(c.h, 100.0f);
-  EXPECT_EQ(c.b, 100.0f);
-  EXPECT_EQ(c.tw, 10.0f);
-  EXPECT_EQ(c.r, 12.0f);
   EXPECT_TRUE(Near(c.A, 1920, kSingle));          // 19.2 cm2
   EXPECT_EQ(c.ez, 28.2f);
-  EXPECT_EQ(c.eyc, 28.2f);
   EXPECT_TRUE(Near(c.Iy, 1.767e6, kSingle));      // 176.7 cm4
   EXPECT_EQ(c.Iz, c.Iy);
   EXPECT_EQ(c.IzDefl, c.Iy);
@@ -60,7 +55,6 @@ TEST(EqualAngle, L100x100x10MatchesTheTableAndTheHandCalculation) {
   EXPECT_TRUE(Near(c.Ix, 63333.333, kHand));       // t^3 (b - t/2) 2/3
   EXPECT_TRUE(Near(c.Iw, 5.5555556e7, kHand));     // b^3 t^3 / 18
   EXPECT_EQ(c.c, 78.0f);                           // 100 - 10 - 12
-  EXPECT_EQ(c.tmax, 10.0f);
 }
 
 TEST(EqualAngle, CornerPointsLieSymmetricAndTheHeelOnTheUAxis) {
@@ -88,12 +82,10 @@ TEST(EqualAngle, ResistancesAndClassOfAStockyAngle) {
   EXPECT_EQ(c.classMy, 3);
   EXPECT_EQ(c.classMz, 3);
   EXPECT_TRUE(Near(c.NcRd, 451.2, kHand));   // 1920 x 235 / 1000
-  EXPECT_TRUE(Near(c.NtRd, 451.2, kHand));
   EXPECT_EQ(c.NRdBuck, c.NcRd);              // gammaM0 = gammaM1 = 1
   EXPECT_TRUE(Near(c.MuRdMin, 9.8197770, kHand));
   EXPECT_TRUE(Near(c.MvRdMin, 4.2788846, kHand));
   EXPECT_TRUE(Near(c.MelyAngle, 5.7833564, kHand));
-  EXPECT_TRUE(Near(c.MytRd, c.MelyAngle, kHand));
   EXPECT_TRUE(Near(c.MybRd, 14.725, kHand));  // 62659.574 x 235e-6
   // Shear: (100 - 10) / 1.5 x 10 x 235 / sqrt 3 / 1000
   EXPECT_TRUE(Near(c.VzRd, 81.406388, kHand));
@@ -160,8 +152,6 @@ State Unequal100x75(int grade) {
 TEST(UnequalAngle, L100x75x10MatchesTheTableAndTheHandCalculation) {
   State s = Unequal100x75(kS235);
   const Section& c = s.section;
-  EXPECT_EQ(c.h, 100.0f);
-  EXPECT_EQ(c.b, 75.0f);
   EXPECT_TRUE(Near(c.A, 1660, kSingle));        // 16.6 cm2
   EXPECT_TRUE(Near(c.Iy, 1.62e6, kSingle));     // 162 cm4
   EXPECT_TRUE(Near(c.Iz, 7.76e5, kSingle));     // 77.6 cm4
