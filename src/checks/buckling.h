@@ -80,6 +80,11 @@ void FactorsMethod2(State& s);
 // may set calcError, after which the caller stops. Method 1 takes the critical moment of uniform
 // moment first where the section can buckle laterally (`lateralTorsional`).
 void InteractionFactors(State& s, bool lateralTorsional = true);
+// Angles, Method 1: Cmu and Cmv of Table A.2 about the principal axes (u with the y diagram, v with
+// the z diagram), then kvv and kvu of the line about v. FactorsUV sets calcError beyond Ncru or
+// Ncrv, after which the caller stops.
+void EquivalentMomentUV(State& s);
+void FactorsUV(State& s);
 // Whether anything acts in the plane of z (My, Vz) and of y (Mz, Vy), for the shape fallback of
 // Method 2.
 void LoadPlanes(State& s);

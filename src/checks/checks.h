@@ -81,6 +81,15 @@ struct Checks {
   // compression under a positive and a negative moment.
   Number zs = 0, zjTop = 0, zjBot = 0, psifTop = 0, psifBot = 0, ezb = 0, hpl = 0, bpl = 0;
   double MyRdBuckPos = 0, MyRdBuckNeg = 0;
+
+  // Angles: flexural buckling about the principal axes u and v, the member's values turned into
+  // them, and the interaction factors of the line about v.
+  Number Ncru = 0, lamdau = 0, chiu = 0, NbuRd = 0;
+  Number Ncrv = 0, lamdav = 0, chiv = 0, NbvRd = 0;
+  Number kvv = 0, kvu = 0, Cmu = 0, Cmv = 0;
+  Single MuMax = 0, MvMax = 0;  // kNm, governing moments about u and v
+  Single MuCm = 0, MvCm = 0;    // kNm, the largest moments about u and v for Cm
+  Single deltaU = 0, deltaV = 0;  // mm, deflections across u and v for Cm
 };
 
 }  // namespace vn

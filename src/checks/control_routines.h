@@ -18,5 +18,8 @@ void HollowShearResistances(State& s, double NEd, double MyEd);
 // Welded I with unequal flanges (type 22): the I controls with a moment about y that keeps its sign.
 void SectionControlSingleSym(State& s);
 void BucklingControlSingleSym(State& s);
+// Angles: the corner sums in y, z and in u, v; buckling about y, z and the weak principal axis v.
+void SectionControlAngle(State& s);
+void BucklingControlAngle(State& s);
 
 }  // namespace vn

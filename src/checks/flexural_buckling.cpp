@@ -152,6 +152,23 @@ void BucklingFactors(State& s) {
 
   k.lamdaMax = std::max(k.lamday, k.lamdaz);
 
+  // An angle also buckles about its principal axes: v with the z length, u with the y length, both
+  // on the gross area and curve of z. A leg connection takes 0.35 + 0.7 lamda on both.
+  if (type == 10 || type == 11) {
+    const double NRk = static_cast<double>(p.fyk) * c.A;
+    auto principal = [&](double factor, Single I, double& Ncr, double& lamda, double& chi,
+                         double& Nb) {
+      const double length = factor * 1000 * static_cast<double>(p.L);
+      Ncr = Div(PiSingle * PiSingle * p.E, length * length) * I / 1000;
+      lamda = Sqrt(Div(NRk, Ncr * 1000));
+      if (oneLeg) lamda = 0.35 + 0.7 * lamda;
+      chi = FlexuralChi(lamda, k.alphaZ);
+      Nb = chi * c.NRdBuck;
+    };
+    principal(p.bucklingFactorZ, c.Iv, k.Ncrv, k.lamdav, k.chiv, k.NbvRd);
+    principal(p.bucklingFactorY, c.Iu, k.Ncru, k.lamdau, k.chiu, k.NbuRd);
+  }
+
   // Torsional and torsional-flexural critical loads. The length of the torsional mode is the LT
   // length of this run; with the LT control off the member is held against twist at its ends and
   // buckles over its length about z.
@@ -170,7 +187,7 @@ void BucklingFactors(State& s) {
     i02 = is2 + y0 * y0;
     Ncr = k.Ncry;
   } else if (type == 10 || type == 11) {
-    const double dy = static_cast<double>(c.ey) - c.tw / 2.0;
+    const double dy = static_cast<double>(c.eyc) - c.tw / 2.0;
     const double dz = static_cast<double>(c.ez) - c.tw / 2.0;
     i02 = is2 + dy * dy + dz * dz;
     Ncr = k.Ncry;

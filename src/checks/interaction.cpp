@@ -159,6 +159,13 @@ void FactorsMethod1(State& s) {
   const double lamda0 = k.lamda0, lz4 = Pow(k.lamdaz, 4);
   const double Cmy2 = k.Cmy * k.Cmy, Cmz2 = k.Cmz * k.Cmz;
   const double wy = k.wy, wz = k.wz, npl = k.npl, aLt = k.aLt;
+
+  // The C factors belong to the plastic forms. A section without plastic moduli (an angle) is
+  // always elastic and takes the factors of class 3, which do not read them.
+  if (c.Wply == 0 || c.Wplz == 0) {
+    k.bLt = k.cLt = k.dLt = k.eLt = 0;
+    k.Cyy = k.Cyz = k.Czy = k.Czz = 0;
+  } else {
   const double ratioY = Div(c.Wely, c.Wply), ratioZ = Div(c.Welz, c.Wplz);
 
   k.bLt = 0.5 * aLt * lamda0 * lamda0 * Div(Div(m, k.xLT), c.MplyRd) * Div(mz, c.MplzRd);
@@ -178,6 +185,7 @@ void FactorsMethod1(State& s) {
   k.eLt = Div(1.7 * aLt * lamda0, 0.1 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd);
   k.Czz = 1 + (wz - 1) * (2 - pz * lm - pz * lm * lm - k.eLt) * npl;
   k.Czz = std::max(k.Czz, ratioZ);
+  }
 
   const double ay = 1 - Div(NEd, k.Ncry), az = 1 - Div(NEd, k.Ncrz);
   if (c.classMy > 2) {
@@ -194,6 +202,40 @@ void FactorsMethod1(State& s) {
     k.kyz = Div(Div(k.Cmz * k.uy, az), k.Cyz) * 0.6 * Sqrt(Div(wz, wy));
     k.kzz = Div(Div(k.Cmz * k.uz, az), k.Czz);
   }
+}
+
+// ---- The principal axes of an angle ----
+
+void EquivalentMomentUV(State& s) {
+  const Project& p = s.project;
+  const Analysis& an = s.analysis;
+  const Section& c = s.section;
+  Checks& k = s.checks;
+  if (p.AnalysisMode == 1) {
+    // u takes the diagram of the y plane and v that of the z plane, as y and z do in Table A.2.
+    k.Cmu = Cm0OfDiagram(s, an.PointsY, an.ShapeY, k.Ncru, c.Iu, k.deltaU, k.MuCm);
+    k.Cmv = Cm0OfDiagram(s, an.PointsZ, an.ShapeZ, k.Ncrv, c.Iv, k.deltaV, k.MvCm);
+  } else {
+    k.Cmu = Cm0OfEnds(s, an.ShapeY, k.Ncru);
+    k.Cmv = Cm0OfEnds(s, an.ShapeZ, k.Ncrv);
+  }
+}
+
+void FactorsUV(State& s) {
+  Project& p = s.project;
+  Checks& k = s.checks;
+  const double NEd = s.analysis.NEd;
+  if (NEd > k.Ncrv || NEd > k.Ncru) {
+    p.calcError = -1;
+    return;
+  }
+  k.lamda0 = 1;
+  k.CmLt = 1;
+  const double av = 1 - Div(NEd, k.Ncrv);
+  const double muv = Div(av, 1 - k.chiv * Div(NEd, k.Ncrv));
+  k.kvv = Div(k.Cmv * muv, av);
+  // The u factor takes the mu of z that Method 1 left, as the program has it.
+  k.kvu = Div(k.Cmu * k.CmLt * k.uz, 1 - Div(NEd, k.Ncru));
 }
 
 // ---- Method 2 ----

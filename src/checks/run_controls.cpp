@@ -11,6 +11,8 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
   static const std::vector<ControlFamilyRow> rows = {
       // Rolled I, channels, British sections: the I family's controls, buckling always.
       {1, 5, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
+      {10, 11, BeforeControl::Nothing, SectionControlAngle, BucklingControlAngle,
+       BucklingWhen::Compression},
       {15, 16, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {21, 21, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {101, 103, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},

@@ -1,5 +1,6 @@
 #include "sections/families.h"
 
+#include "sections/angles.h"
 #include "sections/british.h"
 #include "sections/channels.h"
 #include "sections/hollow.h"
@@ -23,6 +24,8 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   // 10 and 11 angles
   rows.push_back({22, 22, SingleSymProperties, {SingleSymEffective, SingleSymClasses}, -1});
   // 23-28, 31, 41, 51-56
+  rows.push_back({10, 10, EqualAngleProperties, {AngleClassEqual}, 0});
+  rows.push_back({11, 11, UnequalAngleProperties, {AngleClassUnequal}, 0});
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,

@@ -60,7 +60,7 @@ struct Section {
 
   // Welded I with unequal flanges (22): index 1 is the upper flange, 2 the lower. The centroid from
   // the lower edge is `ez`; the elastic moduli of the upper and lower fibre are `Wyt` and `Wyb`.
-  double c1 = 0, c2 = 0;  // (d) flange outstands
+  double c1 = 0, c2 = 0;  // (d) flange outstands; the legs of an unequal angle
   Single zpl = 0;         // plastic neutral axis from the lower edge
   Single WeffyTop = 0, WeffyBot = 0;    // effective moduli, upper flange compressed
   Single WeffyTop2 = 0, WeffyBot2 = 0;  // effective moduli, lower flange compressed
@@ -76,6 +76,17 @@ struct Section {
   Single psif2 = 0;              // its negative
   double zj = 0;                 // (d) asymmetry term of the critical moment, positive My
   Single zj2 = 0;                // the same, negative My
+  // Angles: the three corner points (1 and 3 the leg ends, 2 the heel), their distances from the
+  // principal axes, the moduli and resistances about u and v at each point (index 0 unused).
+  std::array<Single, 4> uPt{}, vPt{};  // mm, from the v axis and from the u axis
+  std::array<Single, 4> Wu{}, Wv{};
+  std::array<double, 4> MuRd{}, MvRd{};  // (d) kNm
+  double MuRdMin = 0;                    // (d)
+  Single MvRdMin = 0;
+  double MytRd = 0, MybRd = 0, MzlRd = 0;  // (d) kNm, from the fibre moduli
+  Single MzrRd = 0;
+  double MelyAngle = 0;  // (d)
+  Single MelzAngle = 0;
 
   // Figure data for the section figure
   std::array<OutlinePoint, 82> Outline{};  // points 1..81

@@ -264,6 +264,13 @@ void RegisterSectionControls(ControlTable& t) {
       AddSectionDialogOption(t, d->form, "optturn1", [](State& s) { s.project.rhsTurned = 1; });
       AddSectionDialogOption(t, d->form, "optturn0", [](State& s) { s.project.rhsTurned = 0; });
     }
+    if (d->type == 10 || d->type == 11) {
+      // How the angle is connected: 1 as a member of its own, 2 by one leg, which the buckling
+      // control takes with the effective slenderness of the angle rules.
+      for (int k = 1; k <= 2; ++k)
+        AddSectionDialogOption(t, d->form, "opt_l10_" + std::to_string(k),
+                               [k](State& s) { s.project.angleOption = static_cast<Integer>(k); });
+    }
 
     if (d->type == 101 || d->type == 103) {
       const int count = d->type == 101 ? 3 : 2;

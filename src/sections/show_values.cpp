@@ -105,6 +105,45 @@ void SingleSymBlock(Block& out, const Section& c) {
   flange("Bottom flange in compression", c.classMyNeg, c.Weffy2, c.MyRdNeg);
 }
 
+// The angles: legs, thickness and radius, the centroid, the corner points and the principal axes,
+// then the elastic properties and resistances with the least values about u and v.
+void AngleBlocks(Block& out, const Section& c) {
+  out.Line("h =", c.h, "#0", " mm");
+  out.Line("b =", c.b, "#0", " mm");
+  out.Line("t =", c.tw, "#0.0", " mm");
+  out.Line("r =", c.r, "#0.0", " mm");
+  out.Line("ez =", c.ez, "#0.0", " mm");
+  out.Line("ey =", c.eyc, "#0.0", " mm");
+  out.Line("u1 =", c.uPt[1], "#0.0", " mm");
+  out.Line("u2 =", c.uPt[2], "#0.0", " mm");
+  out.Line("v1 =", c.vPt[1], "#0.0", " mm");
+  out.Line("v3 =", c.vPt[3], "#0.0", " mm");
+  out.Line("alfa =", c.alfa, "#0.0", " deg");
+  out.Line("A =", c.A, "##0", " mm2");
+  out.Line("Ix =", c.Ix, "0.000E+0", " mm4");
+  out.Line("Iy =", c.Iy, "0.000E+0", " mm4");
+  out.Line("Iz =", c.Iz, "0.000E+0", " mm4");
+  out.Line("Iu =", c.Iu, "0.000E+0", " mm4");
+  out.Line("Iv =", c.Iv, "0.000E+0", " mm4");
+  out.Line("Wel,y =", c.Wely, "0.000E+0", " mm3");
+  out.Line("Wel,z =", c.Welz, "0.000E+0", " mm3");
+  out.Line("Wel,u =", c.Wumin, "0.000E+0", " mm3 (min)");
+  out.Line("Wel,v =", c.Wvmin, "0.000E+0", " mm3 (min)");
+  out.Line("Iw =", c.Iw, "0.000E+0", " mm6");
+  out.Line("g =", c.g, "#0.0", " kg/m");
+  out.Line("S =", c.S, "#0.000", " m2/m");
+  out.Line("Aeff =", c.Aeff, "##0", " mm2");
+  out.s.view.sectionValues.push_back({"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
+  out.Line("Nt,Rd =", c.NtRd, "#0.0", " kN");
+  out.Line("Nc,Rd =", c.NcRd, "#0.0", " kN");
+  out.Line("Vc,y,Rd =", c.VbyRd, "#0.0", " kN");
+  out.Line("Vc,z,Rd =", c.VbzRd, "#0.0", " kN");
+  out.Line("My,Rd =", c.MelyAngle, "#0.0", " kNm");
+  out.Line("Mz,Rd =", c.MelzAngle, "#0.0", " kNm");
+  out.Line("Mu,Rd =", c.MuRdMin, "#0.0", " kNm (min)");
+  out.Line("Mv,Rd =", c.MvRdMin, "#0.0", " kNm (min)");
+}
+
 }  // namespace
 
 void ShowSectionValues(State& s) {
@@ -144,6 +183,9 @@ void ShowSectionValues(State& s) {
       break;  // the typed dimensions stand in the dialog's fields
     case 22:
       SingleSymBlock(out, c);
+      return;
+    case 10: case 11:
+      AngleBlocks(out, c);
       return;
     default:
       return;  // the other families show their own blocks
