@@ -19,6 +19,8 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
       // Hollow sections.
       {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
        BucklingWhen::Always},
+      {23, 23, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
+       BucklingWhen::Always},
       // The welded I (21) and the other families join with their section routines.
       // Welded I with unequal flanges: the twins that keep the sign of My.
       {22, 22, BeforeControl::Nothing, SectionControlSingleSym, BucklingControlSingleSym,

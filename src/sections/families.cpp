@@ -1,6 +1,7 @@
 #include "sections/families.h"
 
 #include "sections/angles.h"
+#include "sections/box.h"
 #include "sections/british.h"
 #include "sections/channels.h"
 #include "sections/hollow.h"
@@ -21,11 +22,11 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   rows.push_back({7, 7, RhsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({8, 8, CfshsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({9, 9, CfrhsProperties, {HollowEffective, HollowCapacities}, 0});
-  // 10 and 11 angles
-  rows.push_back({22, 22, SingleSymProperties, {SingleSymEffective, SingleSymClasses}, -1});
-  // 23-28, 31, 41, 51-56
   rows.push_back({10, 10, EqualAngleProperties, {AngleClassEqual}, 0});
   rows.push_back({11, 11, UnequalAngleProperties, {AngleClassUnequal}, 0});
+  rows.push_back({22, 22, SingleSymProperties, {SingleSymEffective, SingleSymClasses}, -1});
+  rows.push_back({23, 23, BoxProperties, {HollowEffective, HollowCapacities}, 0});
+  // 24-28, 31, 41, 51-56
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,

@@ -264,6 +264,11 @@ void RegisterSectionControls(ControlTable& t) {
       AddSectionDialogOption(t, d->form, "optturn1", [](State& s) { s.project.rhsTurned = 1; });
       AddSectionDialogOption(t, d->form, "optturn0", [](State& s) { s.project.rhsTurned = 0; });
     }
+    // The welds of the box, which choose its buckling curve.
+    if (d->type == 23) {
+      AddSectionDialogOption(t, d->form, "oweld0", [](State& s) { s.project.p23.oweld = 0; });
+      AddSectionDialogOption(t, d->form, "oweld1", [](State& s) { s.project.p23.oweld = 1; });
+    }
     if (d->type == 10 || d->type == 11) {
       // How the angle is connected: 1 as a member of its own, 2 by one leg, which the buckling
       // control takes with the effective slenderness of the angle rules.

@@ -179,7 +179,7 @@ void ShowSectionValues(State& s) {
         s.view.sectionValues.back().tip =
             " r = 2*t ; t<=6 \n r = 2.5*t ; 6<t<=10 \n r = 3*t ; t>10 ";
       break;
-    case 21:
+    case 21: case 23:
       break;  // the typed dimensions stand in the dialog's fields
     case 22:
       SingleSymBlock(out, c);

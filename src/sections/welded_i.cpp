@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 #include <string>
 
 #include "core/format.h"
@@ -18,51 +19,6 @@ namespace vn {
 namespace {
 
 bool On(Boolean flag) { return flag != 0; }
-
-// One plate of the girder: width, height and the lower left corner, measured from the left end of
-// the lower flange and from the lower edge.
-struct Plate {
-  double w, ht, y0, z0;
-};
-
-// Sums of the rectangle table.
-struct PlateSums {
-  double A = 0, Ay = 0, Az = 0, Ay2 = 0, Az2 = 0, IownH = 0, IownV = 0;
-};
-
-// Ix, the centroid and the second moments from the three plates (upper flange, web, lower flange).
-PlateSums PlateTable(Section& c, const std::array<Plate, 3>& plates) {
-  PlateSums sum;
-  double Ix = 0;
-  for (const Plate& p : plates) {
-    const double longSide = std::max(p.w, p.ht), shortSide = std::min(p.w, p.ht);
-    Ix += longSide * shortSide * shortSide * shortSide / 3;
-  }
-  c.Ix = ToSingle(Ix);
-  for (const Plate& p : plates) {
-    const double area = p.w * p.ht;
-    const double yc = p.y0 + p.w / 2, zc = p.z0 + p.ht / 2;
-    sum.A += area;
-    sum.Ay += area * yc;
-    sum.Az += area * zc;
-    sum.Ay2 += area * yc * yc;
-    sum.Az2 += area * zc * zc;
-    sum.IownH += p.w * p.ht * p.ht * p.ht / 12;
-    sum.IownV += p.ht * p.w * p.w * p.w / 12;
-  }
-  c.eyc = ToSingle(Div(sum.Ay, sum.A));
-  c.ez = ToSingle(Div(sum.Az, sum.A));
-  c.Iy = ToSingle(sum.IownH + sum.Az2 - sum.A * static_cast<double>(c.ez) * c.ez);
-  c.Iz = ToSingle(sum.IownV + sum.Ay2 - sum.A * static_cast<double>(c.eyc) * c.eyc);
-  c.IzDefl = c.Iz;
-  return sum;
-}
-
-// The nominal weld of the girder, which stands where the root radius of a rolled section stands.
-Single NominalWeld(Single tw) {
-  const Single r = ToSingle(0.4 * tw);
-  return r < 4 ? Single{4} : r;
-}
 
 // Class 1 to 3 by three limits times epsilon, else 4: the slenderness and each product are singles.
 // `strict` compares with "<", otherwise with "<=".
@@ -153,6 +109,39 @@ std::string Dim(const State& s, Single v) { return SingleText(v, s.decimalComma)
 
 }  // namespace
 
+PlateSums PlateTable(Section& c, std::span<const Plate> plates) {
+  PlateSums sum;
+  double Ix = 0;
+  for (const Plate& p : plates) {
+    const double longSide = std::max(p.w, p.ht), shortSide = std::min(p.w, p.ht);
+    Ix += longSide * shortSide * shortSide * shortSide / 3;
+  }
+  c.Ix = ToSingle(Ix);
+  for (const Plate& p : plates) {
+    const double area = p.w * p.ht;
+    const double yc = p.y0 + p.w / 2, zc = p.z0 + p.ht / 2;
+    sum.A += area;
+    sum.Ay += area * yc;
+    sum.Az += area * zc;
+    sum.Ay2 += area * yc * yc;
+    sum.Az2 += area * zc * zc;
+    sum.IownH += p.w * p.ht * p.ht * p.ht / 12;
+    sum.IownV += p.ht * p.w * p.w * p.w / 12;
+  }
+  c.eyc = ToSingle(Div(sum.Ay, sum.A));
+  c.ez = ToSingle(Div(sum.Az, sum.A));
+  c.Iy = ToSingle(sum.IownH + sum.Az2 - sum.A * static_cast<double>(c.ez) * c.ez);
+  c.Iz = ToSingle(sum.IownV + sum.Ay2 - sum.A * static_cast<double>(c.eyc) * c.eyc);
+  c.IzDefl = c.Iz;
+  return sum;
+}
+
+Single NominalWeld(Single tw) {
+  const Single r = ToSingle(0.4 * tw);
+  return r < 4 ? Single{4} : r;
+}
+
+
 // ---------------------------------------------------------------------------------------------
 // Double symmetric welded I (21)
 
@@ -165,7 +154,8 @@ void WeldedIDoubleProperties(State& s) {
   c.tw = in.isttw;
   c.tf = in.isttf;
   const double h = c.h, b = c.b, tw = c.tw, tf = c.tf;
-  const PlateSums sum = PlateTable(c, {{{b, tf, 0, h - tf}, {tw, h - 2 * tf, (b - tw) / 2, tf}, {b, tf, 0, 0}}});
+  const std::array<Plate, 3> plates{{{b, tf, 0, h - tf}, {tw, h - 2 * tf, (b - tw) / 2, tf}, {b, tf, 0, 0}}};
+  const PlateSums sum = PlateTable(c, plates);
 
   c.r = NominalWeld(c.tw);
   const double r = c.r;
