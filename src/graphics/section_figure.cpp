@@ -292,20 +292,16 @@ void DrawRectSection(draw::Canvas& c, const Section& sec, int type, double unit)
   const int n = std::clamp<int>(sec.OutlineRects, 0, 40);
   for (int i = 1; i <= n; ++i) c.Rectangle(At(sec, 2 * i - 1), At(sec, 2 * i), kEdge, kSteel);
   if (n < 1) return;
-  // The flanges' letters: b1 at the first rectangle, b2 at the last; in the single symmetric I
-  // b1 marks the wider flange; the plates carry B on the plate.
+  // The flanges' letters: b1 at the first rectangle (the upper flange, drawn on top), b2 at the
+  // last, as the dialog's fields name them; the plates carry B on the plate.
   auto label = [&](int rect, const char* letter, bool above) {
     const Point a = At(sec, 2 * rect - 1), b = At(sec, 2 * rect);
     const double y = above ? std::max(a.y, b.y) + unit : std::min(a.y, b.y) - unit;
     c.Text({(a.x + b.x) / 2, y}, letter, LetterFont(), HAlign::Center,
            above ? VAlign::Bottom : VAlign::Top);
   };
-  auto width = [&](int rect) { return std::fabs(At(sec, 2 * rect).x - At(sec, 2 * rect - 1).x); };
   if (type >= 51 && type <= 56) {
     label(1, "B", true);
-  } else if (type == 22 && n >= 3 && width(1) < width(n)) {
-    label(n, "b1", false);
-    label(1, "b2", true);
   } else if (n >= 3) {
     label(1, "b1", true);
     label(n, "b2", false);

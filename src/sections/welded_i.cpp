@@ -291,7 +291,8 @@ void SingleSymProperties(State& s) {
   c.FigHeight = c.h;
   c.FigWidth = ToSingle(bmax);
   c.FigCentroidY = ToSingle(c.eyc + shift);
-  c.FigCentroidZ = ToSingle(h - ezb);
+  // Measured like the outline, from the lower edge: the upper flange is drawn on top.
+  c.FigCentroidZ = ToSingle(ezb);
 }
 
 double ClassSingleSymY(State& s, double N, double M) {
