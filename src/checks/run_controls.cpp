@@ -16,6 +16,15 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
       // Hollow sections.
       {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
        BucklingWhen::Always},
+      // T section: an axial member; its load tables are emptied before the control.
+      {26, 26, BeforeControl::ClearLoads, SectionControlT, BucklingControlT,
+       BucklingWhen::Compression},
+      {28, 28, BeforeControl::Nothing, SectionControlFlat, BucklingControlFlat,
+       BucklingWhen::Compression},
+      {31, 31, BeforeControl::Nothing, SectionControlTube, BucklingControlHollow,
+       BucklingWhen::Compression},
+      {41, 41, BeforeControl::Nothing, SectionControlGeneral, BucklingControlI,
+       BucklingWhen::Always},
       // The welded I (21) and the other families join with their section routines.
   };
   return rows;
@@ -49,6 +58,7 @@ void RunControls(State& s) {
   for (const ControlFamilyRow& row : ControlFamilies()) {
     if (type < row.firstType || type > row.lastType) continue;
     if (row.before == BeforeControl::AxialZero) an.NEd = 0;
+    if (row.before == BeforeControl::ClearLoads) ClearLoads(s);
     row.sectionControl(s);
     bool run = row.bucklingControl != nullptr;
     if (row.when == BucklingWhen::Never) run = false;

@@ -4,6 +4,7 @@
 #include "sections/channels.h"
 #include "sections/hollow.h"
 #include "sections/rolled_i.h"
+#include "sections/small_families.h"
 
 namespace vn {
 
@@ -19,7 +20,12 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   rows.push_back({7, 7, RhsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({8, 8, CfshsProperties, {HollowEffective, HollowCapacities}, 0});
   rows.push_back({9, 9, CfrhsProperties, {HollowEffective, HollowCapacities}, 0});
-  // 10 and 11 angles, 22-28, 31, 41, 51-56
+  // 10 and 11 angles, 22-25, 27, 51-56
+  rows.push_back({26, 26, TeeProperties, {TeeClasses}, 0});
+  // The flat bar keeps the LT flag, and the last section's flange in its surface.
+  rows.push_back({28, 28, FlatProperties, {FlatClasses}, kLtbUnchanged, false, 0, true});
+  rows.push_back({31, 31, TubeProperties, {TubeClasses}, 0});
+  rows.push_back({41, 41, GeneralProperties, {GeneralClasses}, -1});
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,
