@@ -3,6 +3,10 @@
 // (A 40.3 cm2, I 1297 cm4, Wel 154 cm3, Wpl 206 cm3, It 2595 cm4).
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "core/events.h"
 #include "core/pipeline.h"
 #include "core/state.h"
@@ -233,6 +237,42 @@ TEST(GeneralSection, TypedClassesChooseTheModulus) {
   // The name is the label of the dialog.
   Fire(s, "p41.istname", "Column C3");
   EXPECT_EQ(s.view.text["p41.oname"], "Column C3");
+}
+
+// The dialogs show the rows that apply to the family: the tube its diameter and wall and both
+// axes, the T no moment or shear resistance, the general section no dimensions.
+TEST(SmallFamilyDialogs, RowsThatApply) {
+  auto labels = [](State& s) {
+    std::vector<std::string> out;
+    for (const auto& v : s.view.sectionValues) out.push_back(v.label);
+    return out;
+  };
+  auto has = [](const std::vector<std::string>& l, const char* label) {
+    return std::find(l.begin(), l.end(), label) != l.end();
+  };
+  State s = StartedState();
+  Fire(s, "mnup31");
+  std::vector<std::string> l = labels(s);
+  ASSERT_GE(l.size(), 2u);
+  EXPECT_EQ(l[0], "d =");
+  EXPECT_EQ(l[1], "t =");
+  EXPECT_TRUE(has(l, "Mz,Rd ="));
+  EXPECT_FALSE(has(l, "Iw ="));
+  Fire(s, "mnu26");
+  l = labels(s);
+  EXPECT_EQ(l[0], "h =");
+  EXPECT_TRUE(has(l, "Aeff ="));
+  EXPECT_TRUE(has(l, "Nc,Rd ="));
+  EXPECT_FALSE(has(l, "My,Rd ="));
+  Fire(s, "mnup28");
+  l = labels(s);
+  EXPECT_EQ(l[1], "t =");
+  EXPECT_TRUE(has(l, "Vc,z,Rd ="));
+  EXPECT_FALSE(has(l, "Vc,y,Rd ="));
+  Fire(s, "mnup41");
+  l = labels(s);
+  EXPECT_EQ(l[0], "g =");
+  EXPECT_FALSE(has(l, "h ="));
 }
 
 }  // namespace
