@@ -30,9 +30,9 @@ inline bool Compete(double candidate, double& kept, Integer& colour, Single IRli
 
 // When the buckling control of a family runs.
 enum class BucklingWhen { Always, Compression, Never };
-// What the dispatcher does to the forces before the section control: nothing, or NEd := 0 for the
-// families that carry no axial force.
-enum class BeforeControl { Nothing, AxialZero };
+// What the dispatcher does before the section control: nothing, NEd := 0 for the families that
+// carry no axial force, or the load tables emptied (the T section).
+enum class BeforeControl { Nothing, AxialZero, ClearLoads };
 
 struct ControlFamilyRow {
   int firstType, lastType;

@@ -22,4 +22,16 @@ void BucklingControlSingleSym(State& s);
 void SectionControlAngle(State& s);
 void BucklingControlAngle(State& s);
 
+// The circular tube (its buckling control is that of the hollow sections), the general section
+// (the I family's buckling control), the flat bar and the T section.
+void SectionControlTube(State& s);
+void SectionControlGeneral(State& s);
+void SectionControlFlat(State& s);
+void BucklingControlFlat(State& s);
+void SectionControlT(State& s);
+void BucklingControlT(State& s);
+// The load tables emptied before the T's control: a T is analysed as an axial member only, so
+// the next run has no transverse load, no selfweight and no end moments.
+void ClearLoads(State& s);
+
 }  // namespace vn

@@ -9,21 +9,30 @@ namespace vn {
 
 const std::vector<ControlFamilyRow>& ControlFamilies() {
   static const std::vector<ControlFamilyRow> rows = {
-      // Rolled I, channels, British sections: the I family's controls, buckling always.
+      // Rolled I, channels, welded I, British sections: the I family's controls, buckling always.
       {1, 5, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
-      {10, 11, BeforeControl::Nothing, SectionControlAngle, BucklingControlAngle,
-       BucklingWhen::Compression},
       {15, 16, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {21, 21, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
       {101, 103, BeforeControl::Nothing, SectionControlI, BucklingControlI, BucklingWhen::Always},
-      // Hollow sections.
+      // Welded I with unequal flanges: the twins that keep the sign of My.
+      {22, 22, BeforeControl::Nothing, SectionControlSingleSym, BucklingControlSingleSym,
+       BucklingWhen::Always},
+      // Hollow sections and the box with equal flanges.
       {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
        BucklingWhen::Always},
       {23, 23, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
        BucklingWhen::Always},
-      // The welded I (21) and the other families join with their section routines.
-      // Welded I with unequal flanges: the twins that keep the sign of My.
-      {22, 22, BeforeControl::Nothing, SectionControlSingleSym, BucklingControlSingleSym,
+      // Angles: buckling only in compression.
+      {10, 11, BeforeControl::Nothing, SectionControlAngle, BucklingControlAngle,
+       BucklingWhen::Compression},
+      // T section: an axial member; its load tables are emptied before the control.
+      {26, 26, BeforeControl::ClearLoads, SectionControlT, BucklingControlT,
+       BucklingWhen::Compression},
+      {28, 28, BeforeControl::Nothing, SectionControlFlat, BucklingControlFlat,
+       BucklingWhen::Compression},
+      {31, 31, BeforeControl::Nothing, SectionControlTube, BucklingControlHollow,
+       BucklingWhen::Compression},
+      {41, 41, BeforeControl::Nothing, SectionControlGeneral, BucklingControlI,
        BucklingWhen::Always},
   };
   return rows;
@@ -57,6 +66,7 @@ void RunControls(State& s) {
   for (const ControlFamilyRow& row : ControlFamilies()) {
     if (type < row.firstType || type > row.lastType) continue;
     if (row.before == BeforeControl::AxialZero) an.NEd = 0;
+    if (row.before == BeforeControl::ClearLoads) ClearLoads(s);
     row.sectionControl(s);
     bool run = row.bucklingControl != nullptr;
     if (row.when == BucklingWhen::Never) run = false;

@@ -161,14 +161,6 @@ void ComputeMNzRd(State& s) {
 
 namespace {
 
-// alfa = 2 and beta = 5n, not below 1, for every section of the I family, channels included.
-void ExponentsI(State& s) {
-  Checks& k = s.checks;
-  k.alfa = 2;
-  k.betaN = 5 * std::fabs(Div(s.analysis.NEd, s.section.NtRd));
-  if (k.betaN < 1) k.betaN = 1;
-}
-
 void ShearI(State& s, double NEd, double MyEd) { ComputeShearResistances(s, NEd, MyEd); }
 
 const SectionControlRules kRulesI{ExponentsI, false,      ClassAboutY,  ClassAboutZ, ComputeMyRd,
@@ -177,6 +169,14 @@ const SectionControlRules kRulesI{ExponentsI, false,      ClassAboutY,  ClassAbo
 }  // namespace
 
 void SectionControlI(State& s) { RunSectionControl(s, kRulesI); }
+
+// alfa = 2 and beta = 5n, not below 1, for every section of the I family, channels included.
+void ExponentsI(State& s) {
+  Checks& k = s.checks;
+  k.alfa = 2;
+  k.betaN = 5 * std::fabs(Div(s.analysis.NEd, s.section.NtRd));
+  if (k.betaN < 1) k.betaN = 1;
+}
 
 void RunSectionControl(State& s, const SectionControlRules& rules) {
   Checks& k = s.checks;
@@ -230,13 +230,16 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
     const size_t ix = static_cast<size_t>(i);
     const double x = an.ChPointXrel[ix];
     k.MyEd = std::fabs(an.MyPt[ix]);
-    k.MzEd = std::fabs(an.MzPt[ix]);
-    k.VyEd = std::fabs(an.VyPt[ix]);
+    k.MzEd = rules.aboutZ ? std::fabs(an.MzPt[ix]) : 0;
+    k.VyEd = rules.aboutZ ? std::fabs(an.VyPt[ix]) : 0;
     k.VzEd = std::fabs(an.VzPt[ix]);
     const double MyEd = k.MyEd, MzEd = k.MzEd, VyEd = k.VyEd, VzEd = k.VzEd;
-    // The plain texts of b to d hold below half the shear, the MV texts of e to g above it.
-    const bool lowVz = VzEd < 0.5 * c.VzRd, lowVy = VyEd < 0.5 * c.VyRd;
-    const bool highVz = VzEd > 0.5 * c.VzRd, highVy = VyEd > 0.5 * c.VyRd;
+    // The plain texts of b to d hold below half the shear, the MV texts of e to g above it; a
+    // family without the reduction for shear always has the plain texts.
+    const bool red = rules.shearReduces;
+    const bool lowVz = !red || VzEd < 0.5 * c.VzRd, lowVy = !red || VyEd < 0.5 * c.VyRd;
+    const bool highVz = red && VzEd > 0.5 * c.VzRd, highVy = red && VyEd > 0.5 * c.VyRd;
+    auto E = [&s, &rules](double v) { return FormatNumber(v, rules.exponentFormat, s.decimalComma); };
 
     // b. My alone.
     if (MyEd != 0) {
@@ -272,8 +275,8 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
           Write(s, t2,
                 std::string(lowVz ? "IR = [My,Ed/My,Rd]^alfa" : "IR = [My,Ed/MV,y,Rd]^alfa") +
                     (lowVy ? " + [Mz,Ed/Mz,Rd]^beta = " : " + [Mz,Ed/MV,z,Rd]^beta = "),
-                "[" + F(MyEd) + "/" + F(k.MyRd) + "]^" + F2(s, k.alfa) + "+" + "(" + F(MzEd) + "/" +
-                    F(k.MzRd) + ")^" + F2(s, k.betaN) + " = ",
+                "[" + F(MyEd) + "/" + F(k.MyRd) + "]^" + E(k.alfa) + "+" + "(" + F(MzEd) + "/" +
+                    F(k.MzRd) + ")^" + E(k.betaN) + " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.5/6.2.9)"));
       } else {
         const double ir = Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
@@ -346,8 +349,8 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
           Write(s, t2,
                 std::string(highVz ? "IR = (My,Ed/MVN,y,Rd)^alfa " : "IR = (My,Ed/MN,y,Rd)^alfa ") +
                     (highVy ? " + (Mz,Ed/MVN,z,Rd)^beta = " : " + (Mz,Ed/MN,z,Rd)^beta = "),
-                "(" + F(MyEd) + "/" + F(k.MNyRd) + ")^" + F2(s, k.alfa) + "+" + "(" + F(MzEd) +
-                    "/" + F(k.MNzRd) + ")^" + F2(s, k.betaN) + " = ",
+                "(" + F(MyEd) + "/" + F(k.MNyRd) + ")^" + E(k.alfa) + "+" + "(" + F(MzEd) +
+                    "/" + F(k.MNzRd) + ")^" + E(k.betaN) + " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         k.classCur = c.classMy;

@@ -37,7 +37,13 @@ struct SectionControlRules {
   void (*mnyRd)(State&);
   void (*mnzRd)(State&);
   void (*shear)(State&, double NEd, double MyEd);
+  const char* exponentFormat = "0.00";  // the exponents in the Numbers of the biaxial forms
+  bool shearReduces = true;  // false: MRd is never reduced for shear, and no MV or MVN text
+  bool aboutZ = true;        // false: bending about y only, no Mz and no Vy lines
 };
+
+// alfa = 2 and beta = 5n, not below 1, with n against NtRd.
+void ExponentsI(State& s);
 
 // The control of 6.2 at every check point by the given rules.
 void RunSectionControl(State& s, const SectionControlRules& rules);

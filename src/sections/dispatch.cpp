@@ -26,12 +26,18 @@ void SelectYieldStrength(State& s, int grade) {
 
 void ComputeSection(State& s) {
   Project& p = s.project;
-  // Written from scratch, but for the flag that a flat bar leaves as it was.
+  // Written from scratch, but for the flag that a flat bar leaves as it was, and the flange that
+  // the flat bar's surface reads.
   const Boolean ltbBefore = s.section.ltbRelevant;
+  const Single bBefore = s.section.b, tfBefore = s.section.tf;
   s.section = Section{};
   s.section.ltbRelevant = ltbBefore;
   for (const SectionFamilyRow& row : SectionFamilies()) {
     if (p.ProfileType < row.firstType || p.ProfileType > row.lastType) continue;
+    if (row.keepsLastFlange) {
+      s.section.b = bBefore;
+      s.section.tf = tfBefore;
+    }
     if (row.axialZero) s.NEdAbs = 0;
     row.properties(s);
     SelectYieldStrength(s, p.steelGrade);

@@ -20,6 +20,7 @@ struct SectionFamilyRow {
   int ltbRelevant;                     // -1, 0, or kLtbUnchanged
   bool axialZero = false;              // the working axial force is set to 0 first
   int channelKind = 0;                 // 2 for the channels
+  bool keepsLastFlange = false;        // b and tf stay as the last section left them
 };
 
 inline constexpr int kLtbUnchanged = 1;

@@ -7,6 +7,7 @@
 #include "sections/hollow.h"
 #include "sections/rolled_i.h"
 #include "sections/welded_i.h"
+#include "sections/small_families.h"
 
 namespace vn {
 
@@ -26,7 +27,12 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   rows.push_back({11, 11, UnequalAngleProperties, {AngleClassUnequal}, 0});
   rows.push_back({22, 22, SingleSymProperties, {SingleSymEffective, SingleSymClasses}, -1});
   rows.push_back({23, 23, BoxProperties, {HollowEffective, HollowCapacities}, 0});
-  // 24-28, 31, 41, 51-56
+  // 24, 25, 27 and 51-56 after the T
+  rows.push_back({26, 26, TeeProperties, {TeeClasses}, 0});
+  // The flat bar keeps the LT flag, and the last section's flange in its surface.
+  rows.push_back({28, 28, FlatProperties, {FlatClasses}, kLtbUnchanged, false, 0, true});
+  rows.push_back({31, 31, TubeProperties, {TubeClasses}, 0});
+  rows.push_back({41, 41, GeneralProperties, {GeneralClasses}, -1});
   rows.push_back({101, 101, BritishIProperties,
                   {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({102, 102, BritishJProperties,

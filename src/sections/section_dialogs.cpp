@@ -67,6 +67,10 @@ const OptionGroup kOptionGroups[] = {
     {"p24", "OptClass23", [](const State& s) -> int { return s.project.p24.classOption; }},
     {"p25", "OptClass23", [](const State& s) -> int { return s.project.p25.classOption; }},
     {"p31", "tube", [](const State& s) -> int { return s.project.p31.hotCold == 1 ? 1 : 0; }},
+    // The class lists of the general section hold the classes 1 to 4 as the items 0 to 3.
+    {"p41", "cboclassN", [](const State& s) -> int { return s.project.p41.classN - 1; }},
+    {"p41", "cboclassMy", [](const State& s) -> int { return s.project.p41.classMy - 1; }},
+    {"p41", "cboclassMz", [](const State& s) -> int { return s.project.p41.classMz - 1; }},
 };
 
 
@@ -90,6 +94,11 @@ bool IsOpen(const State& s, const SectionDialogInfo& d) {
 void Load(State& s, const SectionDialogInfo& d) {
   FillSectionList(s, d);
   ShowDimensionFields(s, d.form);
+  if (d.type == 41) {
+    s.view.text["p41.istname"] = s.project.p41.name;
+    for (const char* list : {"cboclassN", "cboclassMy", "cboclassMz"})
+      s.view.items[Key(d, list)] = {"1", "2", "3", "4"};
+  }
   if (d.name) s.project.profileName = d.name;
   if (!IsOpen(s, d)) s.view.openDialogs.push_back(d.form);
 }
@@ -167,6 +176,47 @@ void OnSubFamily(State& s, const SectionDialogInfo& d, int option, int count) {
   FillSectionList(s, d);
   Recalculate(s);
   ShowSectionValues(s);
+}
+
+// The general section's name, which its label shows, and its three class lists.
+void RegisterGeneralSectionControls(ControlTable& t, const SectionDialogInfo* d) {
+  AddControl(t, d->form, "istname", [d](State& s, int, std::string_view text) {
+    EnsureActive(s, *d);
+    s.project.p41.name = std::string(text);
+    s.view.text[Key(*d, "istname")] = s.project.p41.name;
+    Recalculate(s);
+    ShowSectionValues(s);
+    EventResult r;
+    r.text = s.project.p41.name;
+    r.recalculated = true;
+    return r;
+  });
+  struct ClassList {
+    const char* name;
+    Integer GeneralInput::*slot;
+  };
+  static constexpr ClassList kLists[] = {{"cboclassN", &GeneralInput::classN},
+                                         {"cboclassMy", &GeneralInput::classMy},
+                                         {"cboclassMz", &GeneralInput::classMz}};
+  for (const ClassList& list : kLists) {
+    AddControl(t, d->form, list.name, [d, list](State& s, int, std::string_view text) {
+      EventResult r;
+      const int index = ChoiceIndex(text);
+      if (index < 0 || index > 3) {
+        r.refused = true;
+        r.message = "No item " + std::string(text) + " in the list " + d->form + "." + list.name +
+                    " (items 0 to 3)";
+        return r;
+      }
+      EnsureActive(s, *d);
+      s.project.p41.*list.slot = static_cast<Integer>(index + 1);
+      Recalculate(s);
+      ShowSectionValues(s);
+      ShowDialogOptions(s, d->form);
+      r.recalculated = true;
+      return r;
+    });
+  }
 }
 
 }  // namespace
@@ -276,6 +326,14 @@ void RegisterSectionControls(ControlTable& t) {
         AddSectionDialogOption(t, d->form, "opt_l10_" + std::to_string(k),
                                [k](State& s) { s.project.angleOption = static_cast<Integer>(k); });
     }
+
+    // A tube hot finished or cold formed.
+    if (d->type == 31) {
+      AddSectionDialogOption(t, d->form, "opthot", [](State& s) { s.project.p31.hotCold = 1; });
+      AddSectionDialogOption(t, d->form, "optcold", [](State& s) { s.project.p31.hotCold = 0; });
+    }
+
+    if (d->type == 41) RegisterGeneralSectionControls(t, d);
 
     if (d->type == 101 || d->type == 103) {
       const int count = d->type == 101 ? 3 : 2;
