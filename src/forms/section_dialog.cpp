@@ -226,7 +226,8 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
     for (const std::string& f : names) {
       auto* edit = new QLineEdit;
       edit->setAlignment(Qt::AlignRight);
-      edit->setFixedWidth(fontMetrics().horizontalAdvance("0000000.0") + 12);
+      // The general section's properties run to ten digits.
+      edit->setFixedWidth(fontMetrics().horizontalAdvance(form_ == "p41" ? "00000000000000" : "0000000.0") + 12);
       bindings_->field(edit, key(f.c_str()));
       l->addWidget(new QLabel(FieldCaption(f)), row, 0, Qt::AlignRight);
       l->addWidget(edit, row, 1);
@@ -243,6 +244,26 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
     left->addWidget(fieldFrame("Stiffener:", stiffener, listed ? list_ : nullptr));
   } else if (!fields.empty()) {
     left->addWidget(fieldFrame("Dimensions", fields, nullptr));
+  }
+  // The general section: its name, and the classes the engineer gives it.
+  if (family.type == 41 && Session::knows(key("istname"))) {
+    auto* g = new QGroupBox("Section");
+    auto* l = new QGridLayout(g);
+    auto* nameEdit = new QLineEdit;
+    nameEdit->setObjectName("istname");
+    bindings_->textField(nameEdit, key("istname"));
+    l->addWidget(new QLabel("Name:"), 0, 0, Qt::AlignRight);
+    l->addWidget(nameEdit, 0, 1, 1, 3);
+    l->addWidget(new QLabel("Cross Section Class:"), 1, 0, 1, 4);
+    int column = 0;
+    for (const char* list : {"cboclassN", "cboclassMy", "cboclassMz"}) {
+      auto* box = new QComboBox;
+      box->setObjectName(list);
+      bindings_->list(box, key(list));
+      l->addWidget(box, 2, column++);
+    }
+    l->addWidget(new QLabel("(N/My/Mz)"), 2, column);
+    left->addWidget(g);
   }
   if (!listed) list_->hide();
   // The options of the family, those the core knows.

@@ -1,6 +1,7 @@
 // The typed dimensions of the section dialogs (welded, box, HSQ, T, flat bar, tube, plate and
 // general sections): one protocol for every field, and one table of limits, each with the text the
 // warning box shows and the test that text states. A family adds its rows here.
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <vector>
@@ -31,6 +32,14 @@ struct DimensionField {
   std::function<Single&(State&)> single;  // a Single slot
   std::vector<Limit> limits;              // tested in order; the first that fails is shown
 };
+
+// The field's text: a 32-bit value by its shortest decimal, so that a typed 1.185E+9 reads
+// 1185000000 and not the 1184999936 the float holds.
+std::string FieldText(const State& s, const DimensionField& f, double v) {
+  if (f.single) v = std::strtod(SingleText(static_cast<Single>(v)).c_str(), nullptr);
+  return FormatNumber(v, f.thickness ? "##0.0" : "##0", s.decimalComma);
+}
+
 
 template <class F>
 std::function<Single&(State&)> S(F f) {
@@ -211,7 +220,7 @@ EventResult LeaveDimensionField(State& s, const DimensionField& f, std::string_v
     f.number(s) = typed;
     stored = f.number(s);
   }
-  r.text = FormatNumber(stored, f.thickness ? "##0.0" : "##0", s.decimalComma);
+  r.text = FieldText(s, f, stored);
   s.view.text[self] = r.text;
   for (const Limit& limit : f.limits) {
     if (!limit.holds(s, stored)) {
@@ -238,8 +247,7 @@ void ShowDimensionFields(State& s, std::string_view form) {
   for (const DimensionField& f : Table()) {
     if (form != f.form) continue;
     const double v = f.single ? static_cast<double>(f.single(s)) : f.number(s);
-    s.view.text[std::string(f.form) + "." + f.field] =
-        FormatNumber(v, f.thickness ? "##0.0" : "##0", s.decimalComma);
+    s.view.text[std::string(f.form) + "." + f.field] = FieldText(s, f, v);
   }
 }
 
