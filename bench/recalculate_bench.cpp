@@ -25,4 +25,20 @@ void BM_RecalculateLoadedBeam(benchmark::State& state) {
 }
 BENCHMARK(BM_RecalculateLoadedBeam)->DenseRange(0, 5)->ArgName("LoadCombMode");
 
+// The default member as each family, chosen from its menu entry: the families differ in their
+// section routines (the plate table, the 0.1 mm stepping of a plastic axis) and in their controls.
+void BM_RecalculateFamily(benchmark::State& state) {
+  static const char* const kMenus[] = {"mnup01", "mnup06", "mnup10", "mnup21", "mnup22",
+                                       "mnup23", "mnu26",  "mnup28", "mnup31", "mnup41"};
+  vn::State s;
+  vn::StartUp(s, vn::bench::ProgramFolder(), false);
+  vn::Fire(s, kMenus[state.range(0)]);
+  state.SetLabel(kMenus[state.range(0)]);
+  for (auto _ : state) {
+    vn::Recalculate(s);
+    benchmark::DoNotOptimize(s.analysis.IRsection);
+  }
+}
+BENCHMARK(BM_RecalculateFamily)->DenseRange(0, 9);
+
 }  // namespace
