@@ -84,7 +84,7 @@ void VisitSection(V& v, S& c) {
   VN_F(c, classN); VN_F(c, classMy); VN_F(c, classMz); VN_F(c, classFlange); VN_F(c, classWeb);
   VN_F(c, NcRd); VN_F(c, NtRd); VN_F(c, MplyRd); VN_F(c, MplzRd); VN_F(c, MelyRd); VN_F(c, MelzRd);
   VN_F(c, MeffyRd); VN_F(c, MeffzRd); VN_F(c, MyRdClass); VN_F(c, MzRdClass); VN_F(c, MfyRd);
-  VN_F(c, MfzRd); VN_F(c, VyRd); VN_F(c, VzRd); VN_F(c, VplRd); VN_F(c, VbyRd); VN_F(c, VbzRd);
+  VN_F(c, MfzRd); VN_F(c, VyRd); VN_F(c, VzRd); VN_F(c, VplRd); VN_F(c, VplyRd); VN_F(c, VbyRd); VN_F(c, VbzRd);
   VN_F(c, NRdBuck); VN_F(c, MyRdBuck); VN_F(c, MzRdBuck);
   VN_F(c, c1); VN_F(c, c2); VN_F(c, zpl); VN_F(c, WeffyTop); VN_F(c, WeffyBot); VN_F(c, WeffyTop2);
   VN_F(c, WeffyBot2); VN_F(c, Weffy1); VN_F(c, Weffy2); VN_F(c, MeffyRd1); VN_F(c, MeffyRd2);
