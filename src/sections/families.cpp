@@ -4,6 +4,8 @@
 #include "sections/british.h"
 #include "sections/channels.h"
 #include "sections/hollow.h"
+#include "sections/hsq.h"
+#include "sections/plates.h"
 #include "sections/rolled_i.h"
 #include "sections/welded_i.h"
 
@@ -23,7 +25,15 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   rows.push_back({9, 9, CfrhsProperties, {HollowEffective, HollowCapacities}, 0});
   // 10 and 11 angles
   rows.push_back({22, 22, SingleSymProperties, {SingleSymEffective, SingleSymClasses}, -1});
-  // 23-28, 31, 41, 51-56
+  // 23, 26, 28, 31, 41 join in their places
+  rows.push_back({24, 24, HsqProperties, {HsqEffective, HsqClasses}, 0, true});
+  rows.push_back({25, 25, HsqUnsymProperties, {HsqEffectiveUnsym, HsqClasses}, 0, true});
+  rows.push_back({27, 27, UnequalBoxProperties, {BoxEffective, BoxClasses}, 0, true});
+  rows.push_back({51, 51, PlateFlatProperties, {PlateEffective, PlateClasses}, -1, true});
+  rows.push_back({52, 52, PlateAngleProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
+  rows.push_back({53, 53, PlateWeldedAngleProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
+  rows.push_back({54, 54, PlateBulbProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
+  rows.push_back({56, 56, PlateTeeProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
   rows.push_back({10, 10, EqualAngleProperties, {AngleClassEqual}, 0});
   rows.push_back({11, 11, UnequalAngleProperties, {AngleClassUnequal}, 0});
   rows.push_back({101, 101, BritishIProperties,
