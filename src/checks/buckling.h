@@ -40,6 +40,9 @@ inline constexpr BucklingStyle kBucklingStyleI{true, "+", false};
 inline constexpr BucklingStyle kBucklingStyleSingleSym{true, "+", true, true};
 // The lines about y and z, and LT where the style has it.
 void RunBucklingControl(State& s, const BucklingStyle& style);
+// The lateral torsional line alone: LateralTorsionalControl, then, where a moment governs, the line
+// and its colour; IRlt gets the ratio.
+void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt);
 
 // ---- Lateral torsional buckling (lateral_torsional.cpp) ----
 

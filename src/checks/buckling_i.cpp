@@ -44,24 +44,6 @@ double MomentResistance(const State& s, const BucklingStyle& style) {
   return s.analysis.MyGov > 0 ? c.MyRdBuckPos : c.MyRdBuckNeg;
 }
 
-void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt) {
-  Project& p = s.project;
-  Checks& k = s.checks;
-  LateralTorsionalControl(s);
-  if (k.MyLT == 0) return;
-  IRlt = std::fabs(Div(k.MyLT, k.xLT * k.MyRdLT));
-  ControlText& t = k.buckTextLT;
-  t.Formula = "IR = My,Ed/(xLT*My,Rd) = ";
-  t.Numbers = F1(s, k.MyLT) + "/(" + F2(s, k.xLT) + "*" + F1(s, k.MyRdLT) + ")" + " = ";
-  t.Ratio = F2(s, IRlt);
-  if (p.ltbRestraints == 0)
-    t.Limit = Limit(s, "Ch 6.3.2)");
-  else
-    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) +
-                           (style.singleSym ? ");  (Ch 6.3.2))" : ";  (Ch 6.3.2))"));
-  k.colLT = Colour(s, IRlt);
-}
-
 // The terms of My and Mz added to the flexural lines (6.61 about y, 6.62 about z).
 void MomentTerms(State& s, const BucklingStyle& style, bool yLine, bool zLine, double& IRy,
                  double& IRz) {
@@ -145,6 +127,25 @@ void BiaxialWithoutAxialForce(State& s, const BucklingStyle& style, double& IRy,
 }
 
 }  // namespace
+
+void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt) {
+  Project& p = s.project;
+  Checks& k = s.checks;
+  LateralTorsionalControl(s);
+  if (k.MyLT == 0) return;
+  IRlt = std::fabs(Div(k.MyLT, k.xLT * k.MyRdLT));
+  ControlText& t = k.buckTextLT;
+  t.Formula = "IR = My,Ed/(xLT*My,Rd) = ";
+  t.Numbers = F1(s, k.MyLT) + "/(" + F2(s, k.xLT) + "*" + F1(s, k.MyRdLT) + ")" + " = ";
+  t.Ratio = F2(s, IRlt);
+  if (p.ltbRestraints == 0)
+    t.Limit = Limit(s, "Ch 6.3.2)");
+  else
+    t.Limit = Limit(s, k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) +
+                           (style.singleSym ? ");  (Ch 6.3.2))" : ";  (Ch 6.3.2))"));
+  k.colLT = Colour(s, IRlt);
+}
+
 
 void BucklingControlI(State& s) { RunBucklingControl(s, kBucklingStyleI); }
 

@@ -21,6 +21,12 @@ void BucklingControlSingleSym(State& s);
 // Angles: the corner sums in y, z and in u, v; buckling about y, z and the weak principal axis v.
 void SectionControlAngle(State& s);
 void BucklingControlAngle(State& s);
+// HSQ (24, 25) and the box with unequal flanges (27): My with its sign and Vz; no buckling control.
+void SectionControlHSQ(State& s);
+// Plates with a stiffener (51 to 56): the same control with the plate's one flange in shear, and
+// the lateral torsional line alone as the buckling control.
+void SectionControlPlate(State& s);
+void BucklingControlPlate(State& s);
 
 // The circular tube (its buckling control is that of the hollow sections), the general section
 // (the I family's buckling control), the flat bar and the T section.

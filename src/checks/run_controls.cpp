@@ -34,6 +34,13 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
        BucklingWhen::Compression},
       {41, 41, BeforeControl::Nothing, SectionControlGeneral, BucklingControlI,
        BucklingWhen::Always},
+      // HSQ and the box with unequal flanges: in-plane girders without a buckling control; the box
+      // keeps its axial force in the shared value, and its control ignores it.
+      {24, 25, BeforeControl::AxialZero, SectionControlHSQ, nullptr, BucklingWhen::Never},
+      {27, 27, BeforeControl::Nothing, SectionControlHSQ, nullptr, BucklingWhen::Never},
+      // Plates with a stiffener (there is no family 55): the LT line alone.
+      {51, 54, BeforeControl::AxialZero, SectionControlPlate, BucklingControlPlate, BucklingWhen::Always},
+      {56, 56, BeforeControl::AxialZero, SectionControlPlate, BucklingControlPlate, BucklingWhen::Always},
   };
   return rows;
 }

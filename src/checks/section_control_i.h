@@ -50,6 +50,12 @@ void RunSectionControl(State& s, const SectionControlRules& rules);
 // The single symmetric I: the moment resistance of class `cls` for the sign of MyEd, reduced for a
 // shear VzEd above half VzRd (sets rhoZ); no cap by a class of pure bending.
 double MyRdSigned(State& s, double cls, double MyEd);
+// rhoZ of 6.2.8 at the point: (2 VzEd / VzRd - 1)^2, at most 1, when VzEd is above half VzRd.
+void RhoZOfPoint(State& s);
+// The twin of the HSQ, box and plate families: the resistance of the sign from the section stage
+// (MyRdPos or MyRdNeg), less the shear share of two web thicknesses, hw^2 (2 rho tw) / 4 for a
+// plastic class and / 6 for an elastic or effective one.
+double MyRdSignedPlated(State& s, double cls, double MyEd);
 // Its MN,y,Rd, with the web share a = (A - (tf1 b1 + b2 + tf2)) / A.
 void MNyRdSingleSym(State& s);
 

@@ -43,10 +43,9 @@ double SignedClass(const Section& c, double MyEd) { return MyEd > 0 ? c.classMyP
 
 }  // namespace
 
-double MyRdSigned(State& s, double cls, double MyEd) {
+void RhoZOfPoint(State& s) {
   Checks& k = s.checks;
-  Section& c = s.section;
-  const Project& p = s.project;
+  const Section& c = s.section;
   const double VzEd = k.VzEd;
   if (VzEd > 0.5 * c.VzRd) {
     const double q = Div(2 * VzEd, c.VzRd) - 1;
@@ -55,6 +54,13 @@ double MyRdSigned(State& s, double cls, double MyEd) {
   } else {
     k.rhoZ = 0;
   }
+}
+
+double MyRdSigned(State& s, double cls, double MyEd) {
+  Checks& k = s.checks;
+  Section& c = s.section;
+  const Project& p = s.project;
+  RhoZOfPoint(s);
   const double hw = c.hw, tw = c.tw, fyk = p.fyk;
   const double web = hw * hw * (tw * static_cast<double>(k.rhoZ));
   double base, R;

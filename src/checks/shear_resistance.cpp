@@ -34,9 +34,13 @@ bool ShearStocky(const State& s, double hw, double tw) {
 }
 
 std::string ComputeShearResistances(State& s, double NEd, double MyEd) {
+  return ShearResistancesOf(s, NEd, MyEd, s.section.b, s.section.tf, 1);
+}
+
+std::string ShearResistancesOf(State& s, double NEd, double MyEd, double b, double tf, double webs) {
   Section& c = s.section;
   const Project& p = s.project;
-  const double hw = c.hw, tw = c.tw, tf = c.tf, b = c.b;
+  const double hw = c.hw, tw = c.tw;
   const double fyk = p.fyk, neta = p.neta;
   const double g0 = p.gammaM0, g1 = p.gammaM1;
   const double sqrt3 = Sqrt(3);
@@ -50,7 +54,7 @@ std::string ComputeShearResistances(State& s, double NEd, double MyEd) {
 
     const double chiW = ShearBucklingChi(s, hw, tw);
     // Contribution of the web.
-    const double Vbw = Div(Div(Div(chiW * (tw * hw) * fyk, sqrt3), g1), 1000);
+    const double Vbw = Div(Div(Div(chiW * (webs * tw * hw) * fyk, sqrt3), g1), 1000);
 
     // Contribution of the flanges, with their moment resistance reduced for the axial force. NEd is
     // in kN and the flanges' force in N here: the factor 1000 between them stays as it is.
@@ -65,7 +69,7 @@ std::string ComputeShearResistances(State& s, double NEd, double MyEd) {
     c.VbzRd = ToSingle(Vbw + Vbf);
 
     // Upper bound, the plastic resistance of the web with eta.
-    const double Vmax = Div(Div(Div(neta * fyk * hw * tw, sqrt3), g1), 1000);
+    const double Vmax = Div(Div(Div(neta * fyk * hw * (webs * tw), sqrt3), g1), 1000);
     if (c.VbzRd > Vmax) c.VbzRd = ToSingle(Vmax);
   }
 

@@ -25,5 +25,8 @@ double ShearBucklingChi(const State& s, double hw, double tw);
 // VbzRd is the plastic resistance VplRd. Called at every check point by the section controls, and
 // once by the section stage of the families that show Vb,z,Rd in their dialog.
 std::string ComputeShearResistances(State& s, double NEd, double MyEd);
+// The same with the flange b x tf that the flange contribution takes, and `webs` webs of hw x tw
+// side by side in the web contribution and its upper bound (two in an HSQ or a box).
+std::string ShearResistancesOf(State& s, double NEd, double MyEd, double b, double tf, double webs);
 
 }  // namespace vn

@@ -81,6 +81,7 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
     return r;
   }
   int before = s.recalcCount;
+  s.view.runMessage.clear();
   EventResult r;
   try {
     r = e->run(s, index, text);
@@ -91,6 +92,8 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
     s.view.txtErrorVisible = true;
   }
   r.recalculated = s.recalcCount != before;
+  // A box of the run itself (an HSQ's overloaded flange) when the event has none of its own.
+  if (r.message.empty()) r.message = s.view.runMessage;
   s.view.lastMessage = r.message;
   return r;
 }

@@ -91,6 +91,7 @@ void VisitSection(V& v, S& c) {
   VN_F(c, classMyPos); VN_F(c, classMyNeg); VN_F(c, WyPos); VN_F(c, WyNeg); VN_F(c, MyRdPos);
   VN_F(c, MyRdNeg); VN_F(c, MyRdBuckPos); VN_F(c, MyRdBuckNeg); VN_F(c, betaf); VN_F(c, betaf2);
   VN_F(c, zs); VN_F(c, psif); VN_F(c, psif2); VN_F(c, zj); VN_F(c, zj2);
+  VN_F(c, WplyTop); VN_F(c, WplyBot); VN_F(c, FlangeLoadFactor);
   v.Array("Outline", c.Outline, [&](auto& pt) { VN_F(pt, x); VN_F(pt, y); });
   VN_F(c, OutlineCount); VN_F(c, OutlineInnerLast); VN_F(c, OutlineRects); VN_F(c, FigHeight);
   VN_F(c, FigWidth); VN_F(c, FigCentroidZ); VN_F(c, FigCentroidY); VN_F(c, ltbRelevant);

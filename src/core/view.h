@@ -32,6 +32,7 @@ struct View {
   std::string txtError;          // caption of the error label
   bool txtErrorVisible = false;
   std::string lastMessage;       // warning text of the last event, if any
+  std::string runMessage;        // a box that a stage of the recalculation showed during the event
 
   std::map<std::string, std::string> text;                // field and label texts
   std::map<std::string, int> value;                       // list index, check box 0/1, option set

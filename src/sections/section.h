@@ -76,6 +76,10 @@ struct Section {
   Single psif2 = 0;              // its negative
   double zj = 0;                 // (d) asymmetry term of the critical moment, positive My
   Single zj2 = 0;                // the same, negative My
+  // HSQ (24, 25) and the box with unequal flanges (27): the plastic moduli of an upgraded class 3
+  // web, and the share of the moment resistance that the load on the lower plate leaves.
+  Single WplyTop = 0, WplyBot = 0;
+  Single FlangeLoadFactor = 0;
   // Angles: the three corner points (1 and 3 the leg ends, 2 the heel), their distances from the
   // principal axes, the moduli and resistances about u and v at each point (index 0 unused).
   std::array<Single, 4> uPt{}, vPt{};  // mm, from the v axis and from the u axis

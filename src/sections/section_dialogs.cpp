@@ -335,6 +335,17 @@ void RegisterSectionControls(ControlTable& t) {
 
     if (d->type == 41) RegisterGeneralSectionControls(t, d);
 
+    if (d->type == 24 || d->type == 25) {
+      // The load of the floor slabs on one projection of the lower plate, considered or not.
+      AddSectionDialogOption(t, d->form, "opthsq0", [](State& s) { s.project.hsqKind = 0; });
+      AddSectionDialogOption(t, d->form, "opthsq1", [](State& s) { s.project.hsqKind = 1; });
+      // A class 3 web upgraded to class 2 (EN 1993-1-1 6.2.2.4): 0 yes, 1 no.
+      const bool sym = d->type == 24;
+      auto classOption = [sym](State& s) -> Integer& { return sym ? s.project.p24.classOption : s.project.p25.classOption; };
+      AddSectionDialogOption(t, d->form, "OptClass23Y", [classOption](State& s) { classOption(s) = 0; });
+      AddSectionDialogOption(t, d->form, "OptClass23N", [classOption](State& s) { classOption(s) = 1; });
+    }
+
     if (d->type == 101 || d->type == 103) {
       const int count = d->type == 101 ? 3 : 2;
       for (int k = 1; k <= count; ++k) {

@@ -119,6 +119,34 @@ void SingleSymBlock(Block& out, const Section& c) {
   flange("Bottom flange in compression", c.classMyNeg, c.Weffy2, c.MyRdNeg);
 }
 
+// The girders loaded in their web plane (HSQ, the box with unequal flanges, the plates with a
+// stiffener): the moduli of both fibres, then for each plate in compression its class (an upgraded
+// class 3 web shows as "3/2"), its effective moduli and the moment resistance; the shear.
+void PlatedBlock(Block& out, const Section& c, bool plate) {
+  const bool comma = out.s.decimalComma;
+  out.Line("A =", c.A, "##0", " mm2");
+  out.Line("Iy =", c.Iy, "0.000E+0", " mm4");
+  out.Line("ez =", c.ez, "#0.0", " mm");
+  out.Line("Wel,yt =", c.Wyt, "0.000E+0", " mm3");
+  out.Line("Wel,yb =", c.Wyb, "0.000E+0", " mm3");
+  out.Line("Wpl,y =", c.Wply, "0.000E+0", " mm3");
+  out.Line("g =", c.g, "#0.0", " kg/m");
+  out.Line("S =", c.S, "#0.000", " m2/m");
+  auto classText = [&](double cls) { return cls == 23 ? std::string("3/2") : FormatNumber(cls, "#0", comma); };
+  auto side = [&](const char* title, double cls, double Wt, double Wb, double MyRd) {
+    out.s.view.sectionValues.push_back({title, "", ""});
+    out.s.view.sectionValues.push_back({"Cross Section Class: ", classText(cls), "(My)"});
+    out.Line("Weff,yt =", Wt, "0.000E+0", " mm3");
+    out.Line("Weff,yb =", Wb, "0.000E+0", " mm3");
+    out.Line("My,Rd =", MyRd, "#0.0", " kNm");
+  };
+  side(plate ? "Plate in compression" : "Top flange in compression", c.classMyPos, c.WeffyTop, c.WeffyBot,
+       c.MyRdPos);
+  side(plate ? "Stiffener in compression" : "Bottom flange in compression", c.classMyNeg, c.WeffyTop2,
+       c.WeffyBot2, c.MyRdNeg);
+  out.Line("Vc,z,Rd =", c.VbzRd, "#0.0", " kN");
+}
+
 // The angles: legs, thickness and radius, the centroid, the corner points and the principal axes,
 // then the elastic properties and resistances with the least values about u and v.
 void AngleBlocks(Block& out, const Section& c) {
@@ -225,6 +253,12 @@ void ShowSectionValues(State& s) {
     case 41:
       // The properties are the typed fields themselves.
       PropertyBlock(out, c, rG | rClass | rNt | rNc | rVy | rVz | rMy | rMz);
+      return;
+    case 24: case 25: case 27:
+      PlatedBlock(out, c, false);
+      return;
+    case 51: case 52: case 53: case 54: case 56:
+      PlatedBlock(out, c, true);
       return;
     default:
       return;  // the other families show their own blocks

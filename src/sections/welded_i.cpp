@@ -6,8 +6,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <span>
+#include <cmath>
 #include <string>
 
 #include "core/format.h"
@@ -20,19 +20,6 @@ namespace {
 
 bool On(Boolean flag) { return flag != 0; }
 
-// Class 1 to 3 by three limits times epsilon, else 4: the slenderness and each product are singles.
-// `strict` compares with "<", otherwise with "<=".
-double PlateClass(Single slender, double eps, double k1, double k2, double k3, bool strict) {
-  auto within = [&](double k) {
-    const Single limit = ToSingle(k * eps);
-    return strict ? slender < limit : slender <= limit;
-  };
-  if (within(k1)) return 1;
-  if (within(k2)) return 2;
-  if (within(k3)) return 3;
-  return 4;
-}
-
 // The more slender of the two flanges, c/tf as a single.
 Single FlangeSlenderness(const Section& c) {
   const Single s1 = ToSingle(Div(c.c1, c.tf1));
@@ -40,65 +27,6 @@ Single FlangeSlenderness(const Section& c) {
   return std::max(s1, s2);
 }
 
-// The web of the single symmetric I under bending, by the compressed part alfa (from the plastic
-// neutral axis) and the stress ratio psi (from the elastic one).
-double WebClassInBending(Single dtw, double alfa, double psi, double eps) {
-  if (alfa > 0.5) {
-    if (dtw <= Div(396 * eps, 13 * alfa - 1)) return 1;
-    if (dtw <= Div(456 * eps, 13 * alfa - 1)) return 2;
-  } else {
-    if (alfa < 0) return 1;
-    if (dtw <= Div(36 * eps, alfa)) return 1;
-    if (dtw <= Div(41.5 * eps, alfa)) return 2;
-  }
-  if (psi > -1) return dtw <= Div(42 * eps, 0.67 + 0.33 * psi) ? 3 : 4;
-  return dtw <= 62 * eps * (1 - psi) * Sqrt(-psi) ? 3 : 4;
-}
-
-// rho of an outstand, EN 1993-1-5 4.4, under the buckling factor k-sigma.
-double OutstandRho(double c, double t, double eps, double ksigma, Boolean noFlangeBuckling) {
-  const Single lamdaP = ToSingle(Div(Div(c, t), 28.4 * eps * Sqrt(ksigma)));
-  double rho = 1;
-  if (lamdaP > 0.748) rho = Div(lamdaP - 0.188, static_cast<double>(lamdaP) * lamdaP);
-  if (On(noFlangeBuckling)) rho = 1;
-  return rho;
-}
-
-// One pass of the effective section about y with one flange in compression. `edge` is the
-// distance from the compressed edge to the centroid, cf, tf and rho those of the compressed
-// flange. Returns I about the effective centroid and sets centroidEff, from the compressed edge.
-double EffectivePass(const State& s, double edge, double cf, double tf, double rho, Single& centroidEff) {
-  const Section& c = s.section;
-  const Project& p = s.project;
-  const double eps = p.epsilon;
-  EffWork w;
-  w.rhoFlange = rho;
-  const double lost = (1 - rho) * cf;  // the strip lost at the flange tips
-  w.AeffW = c.A - 2 * lost * tf;
-  w.centroid = Div(edge * c.A - lost * tf * tf, w.AeffW);
-  w.bc = w.centroid - tf - c.r;
-  if (w.bc < 0) w.bc = 1;
-  w.psi = Div(-(c.d - w.bc), w.bc);
-  w.ksigma = KSigma(w.psi);
-  w.lamdaP = ToSingle(Div(Div(c.d, c.tw), 28.4 * eps * Sqrt(w.ksigma)));
-  if (w.lamdaP <= 0.5 + Sqrt(0.085 - 0.055 * w.psi))
-    w.rhoWeb = 1;
-  else
-    w.rhoWeb = ToSingle(Div(w.lamdaP - 0.055 * (3 + w.psi), static_cast<double>(w.lamdaP) * w.lamdaP));
-  if (w.rhoWeb > 1) w.rhoWeb = 1;
-  if (On(p.noWebBuckling)) w.rhoWeb = 1;
-
-  const double lostDepth = (1 - w.rhoWeb) * w.bc;
-  const double t = (1 - w.rhoWeb) * c.tw * w.bc;
-  const double pStrip = w.centroid - 0.6 * w.rhoWeb * w.bc - lostDepth / 2;
-  w.AeffW = w.AeffW - t;
-  w.centroidEff = ToSingle(Div(edge * c.A - t * pStrip - lost * tf * tf, w.AeffW));
-  centroidEff = w.centroidEff;
-  const double ce = w.centroidEff;
-  return edge * edge * c.A + c.Iy - c.tw * lostDepth * lostDepth * lostDepth / 12 -
-         t * pStrip * pStrip - 2 * lost * tf * tf * tf / 12 - 2 * lost * tf * (tf / 2) * (tf / 2) -
-         w.AeffW * ce * ce;
-}
 
 void Point(Section& c, int i, double x, double y) {
   c.Outline[static_cast<size_t>(i)].x = ToSingle(x);
@@ -108,6 +36,9 @@ void Point(Section& c, int i, double x, double y) {
 std::string Dim(const State& s, Single v) { return SingleText(v, s.decimalComma); }
 
 }  // namespace
+
+// ---------------------------------------------------------------------------------------------
+// The rectangle sums and the plate rules shared with the HSQ, box and plate families
 
 PlateSums PlateTable(Section& c, std::span<const Plate> plates) {
   PlateSums sum;
@@ -136,9 +67,124 @@ PlateSums PlateTable(Section& c, std::span<const Plate> plates) {
   return sum;
 }
 
+Single SteppedPlasticAxis(std::span<const Plate> plates, double A, double h) {
+  const double half = A / 2.0;
+  const double rounds = h / 0.1 + 100;  // the axis reaches h well within this
+  Single zpl = 2;
+  for (double n = 0;; ++n) {
+    if (n > rounds) Fault("overflow");
+    zpl = ToSingle(zpl + 0.1);
+    const double z = zpl;
+    double below = 0;
+    for (const Plate& pl : plates) {
+      if (pl.z0 <= z && z <= pl.z0 + pl.ht)
+        below += (z - pl.z0) * pl.w;
+      else if (pl.z0 + pl.ht < z)
+        below += pl.w * pl.ht;
+    }
+    if (below >= half) break;
+  }
+  return zpl;
+}
+
+double PlasticModulusAbout(std::span<const Plate> plates, double zpl) {
+  double Wply = 0;
+  for (const Plate& pl : plates) {
+    const double area = pl.w * pl.ht, mid = (pl.z0 + pl.z0 + pl.ht) / 2;
+    if (pl.z0 <= zpl && zpl <= pl.z0 + pl.ht) {
+      const double lower = zpl - pl.z0, upper = pl.z0 + pl.ht - zpl;
+      Wply += lower * lower * pl.w / 2 + upper * upper * pl.w / 2;
+    } else if (pl.z0 > zpl) {
+      Wply += (mid - zpl) * area;
+    } else {
+      Wply += (zpl - mid) * area;
+    }
+  }
+  return Wply;
+}
+
 Single NominalWeld(Single tw) {
   const Single r = ToSingle(0.4 * tw);
   return r < 4 ? Single{4} : r;
+}
+
+double PlateClass(Single slender, double eps, double k1, double k2, double k3, bool strict) {
+  auto within = [&](double k) {
+    const Single limit = ToSingle(k * eps);
+    return strict ? slender < limit : slender <= limit;
+  };
+  if (within(k1)) return 1;
+  if (within(k2)) return 2;
+  if (within(k3)) return 3;
+  return 4;
+}
+
+double WebClassInBending(Single dtw, double alfa, double psi, double eps) {
+  if (alfa > 0.5) {
+    if (dtw <= Div(396 * eps, 13 * alfa - 1)) return 1;
+    if (dtw <= Div(456 * eps, 13 * alfa - 1)) return 2;
+  } else {
+    if (alfa < 0) return 1;
+    if (dtw <= Div(36 * eps, alfa)) return 1;
+    if (dtw <= Div(41.5 * eps, alfa)) return 2;
+  }
+  if (psi > -1) return dtw <= Div(42 * eps, 0.67 + 0.33 * psi) ? 3 : 4;
+  return dtw <= 62 * eps * (1 - psi) * Sqrt(-psi) ? 3 : 4;
+}
+
+double OutstandRho(double c, double t, double eps, double ksigma, Boolean noFlangeBuckling) {
+  const Single lamdaP = ToSingle(Div(Div(c, t), 28.4 * eps * Sqrt(ksigma)));
+  double rho = 1;
+  if (lamdaP > 0.748) rho = Div(lamdaP - 0.188, static_cast<double>(lamdaP) * lamdaP);
+  if (On(noFlangeBuckling)) rho = 1;
+  return rho;
+}
+
+double InternalRho(double c, double t, double eps, Boolean noFlangeBuckling) {
+  const Single lamdaP = ToSingle(Div(Div(c, t), 28.4 * eps * Sqrt(4)));
+  double rho = 1;
+  if (lamdaP > 0.673) rho = Div(lamdaP - 0.22, static_cast<double>(lamdaP) * lamdaP);
+  if (On(noFlangeBuckling)) rho = 1;
+  return rho;
+}
+
+double EffectivePass(const State& s, const EffectivePassShape& f, Single& centroidEff) {
+  const Section& c = s.section;
+  const Project& p = s.project;
+  const double eps = p.epsilon;
+  const double edge = f.edge, cf = f.cf, tf = f.tf, rho = f.rho;
+  const double tw = f.webs * c.tw;  // the webs side by side
+  EffWork w;
+  w.rhoFlange = rho;
+  const double lost = (1 - rho) * cf;  // each strip lost at the plate's edges
+  w.AeffW = c.A - f.strips * lost * tf;
+  w.centroid = Div(edge * c.A - f.strips * lost * tf * tf / 2, w.AeffW);
+  w.bc = w.centroid - tf - c.r;
+  if (w.bc < 0) w.bc = 1;
+  if (f.webReduced) {
+    w.psi = Div(-(c.d - w.bc), w.bc);
+    w.ksigma = KSigma(w.psi);
+    w.lamdaP = ToSingle(Div(Div(c.d, c.tw), 28.4 * eps * Sqrt(w.ksigma)));
+    if (w.lamdaP <= 0.5 + Sqrt(0.085 - 0.055 * w.psi))
+      w.rhoWeb = 1;
+    else
+      w.rhoWeb = ToSingle(Div(w.lamdaP - 0.055 * (3 + w.psi), static_cast<double>(w.lamdaP) * w.lamdaP));
+    if (w.rhoWeb > 1) w.rhoWeb = 1;
+    if (On(p.noWebBuckling)) w.rhoWeb = 1;
+  } else {
+    w.rhoWeb = 1;  // the web lies in tension down to the neutral axis
+  }
+
+  const double lostDepth = (1 - w.rhoWeb) * w.bc;
+  const double t = (1 - w.rhoWeb) * tw * w.bc;
+  const double pStrip = w.centroid - 0.6 * w.rhoWeb * w.bc - lostDepth / 2;
+  w.AeffW = w.AeffW - t;
+  w.centroidEff = ToSingle(Div(edge * c.A - t * pStrip - f.strips * lost * tf * tf / 2, w.AeffW));
+  centroidEff = w.centroidEff;
+  const double ce = w.centroidEff;
+  return edge * edge * c.A + c.Iy - tw * lostDepth * lostDepth * lostDepth / 12 - t * pStrip * pStrip -
+         f.strips * lost * tf * tf * tf / 12 - f.strips * lost * tf * (tf / 2) * (tf / 2) -
+         w.AeffW * ce * ce;
 }
 
 
@@ -154,7 +200,7 @@ void WeldedIDoubleProperties(State& s) {
   c.tw = in.isttw;
   c.tf = in.isttf;
   const double h = c.h, b = c.b, tw = c.tw, tf = c.tf;
-  const std::array<Plate, 3> plates{{{b, tf, 0, h - tf}, {tw, h - 2 * tf, (b - tw) / 2, tf}, {b, tf, 0, 0}}};
+  const std::array<Plate, 3> plates = {{{b, tf, 0, h - tf}, {tw, h - 2 * tf, (b - tw) / 2, tf}, {b, tf, 0, 0}}};
   const PlateSums sum = PlateTable(c, plates);
 
   c.r = NominalWeld(c.tw);
@@ -229,38 +275,10 @@ void SingleSymProperties(State& s) {
 
   // 7. The plastic neutral axis, stepped up by 0.1 mm from 2 mm until half the area lies below.
   // The step decides the last digits of Wply and of alfa in the class; there is no interpolation.
-  const double half = c.A / 2.0;
-  const double rounds = h / 0.1 + 100;  // the axis reaches h well within this
-  c.zpl = 2;
-  for (double n = 0;; ++n) {
-    if (n > rounds) Fault("overflow");
-    c.zpl = ToSingle(c.zpl + 0.1);
-    const double z = c.zpl;
-    double below = 0;
-    for (const Plate& pl : plates) {
-      if (pl.z0 <= z && z <= pl.z0 + pl.ht)
-        below += (z - pl.z0) * pl.w;
-      else if (pl.z0 + pl.ht < z)
-        below += pl.w * pl.ht;
-    }
-    if (below >= half) break;
-  }
+  c.zpl = SteppedPlasticAxis(plates, c.A, h);
 
   // 8. Plastic modulus about the stepped axis.
-  const double zpl = c.zpl;
-  double Wply = 0;
-  for (const Plate& pl : plates) {
-    const double area = pl.w * pl.ht, mid = (pl.z0 + pl.z0 + pl.ht) / 2;
-    if (pl.z0 <= zpl && zpl <= pl.z0 + pl.ht) {
-      const double lower = zpl - pl.z0, upper = pl.z0 + pl.ht - zpl;
-      Wply += lower * lower * pl.w / 2 + upper * upper * pl.w / 2;
-    } else if (pl.z0 > zpl) {
-      Wply += (mid - zpl) * area;
-    } else {
-      Wply += (zpl - mid) * area;
-    }
-  }
-  c.Wply = ToSingle(Wply);
+  c.Wply = ToSingle(PlasticModulusAbout(plates, c.zpl));
 
   // 9.
   c.tmax = std::max({c.tf1, c.tf2, c.tw});
@@ -291,8 +309,7 @@ void SingleSymProperties(State& s) {
   c.FigHeight = c.h;
   c.FigWidth = ToSingle(bmax);
   c.FigCentroidY = ToSingle(c.eyc + shift);
-  // Measured like the outline, from the lower edge: the upper flange is drawn on top.
-  c.FigCentroidZ = ToSingle(ezb);
+  c.FigCentroidZ = ToSingle(h - ezb);
 }
 
 double ClassSingleSymY(State& s, double N, double M) {
@@ -419,12 +436,12 @@ void SingleSymEffective(State& s) {
 
   // 3. to 5. The upper flange in compression: the centroid from the upper edge.
   Single ce = 0;
-  double I = EffectivePass(s, h - ezb, c.c1, tf1, rho1, ce);
+  double I = EffectivePass(s, {h - ezb, c.c1, tf1, rho1}, ce);
   c.WeffyTop = ToSingle(Div(I, ce));
   c.WeffyBot = ToSingle(Div(I, h - ce));
 
   // 6. The lower flange in compression: the centroid from the lower edge.
-  I = EffectivePass(s, ezb, c.c2, tf2, rho2, ce);
+  I = EffectivePass(s, {ezb, c.c2, tf2, rho2}, ce);
   c.WeffyBot2 = ToSingle(Div(I, ce));
   c.WeffyTop2 = ToSingle(Div(I, h - ce));
 

@@ -1,0 +1,140 @@
+// The controls of the girders loaded in their web plane: HSQ (24, 25), the box with unequal flanges
+// (27) and the plates with a stiffener (51 to 56). One moment My, which keeps its sign, and one
+// shear Vz; no axial force and no Mz enter them. The moment resistance of each sign is the one the
+// section stage chose for its class (with the upgrade of a class 3 web and the load on the HSQ's
+// lower plate), reduced for high shear. The plates have the lateral torsional line alone as their
+// buckling control; HSQ and the box have none.
+#include <cmath>
+#include <string>
+
+#include "checks/buckling.h"
+#include "checks/control_framework.h"
+#include "checks/control_routines.h"
+#include "checks/section_control_i.h"
+#include "checks/shear_resistance.h"
+#include "core/format.h"
+#include "core/state.h"
+
+namespace vn {
+
+namespace {
+
+std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
+
+void Write(const State& s, ControlText& t, std::string formula, std::string numbers, double ratio,
+           std::string limit) {
+  t.Formula = std::move(formula);
+  t.Numbers = std::move(numbers);
+  t.Ratio = FormatNumber(ratio, "0.00", s.decimalComma);
+  t.Limit = std::move(limit);
+}
+
+// The shear resistances of a point of an HSQ or box: the flange contribution of the flange with
+// the smaller tf b, the two webs side by side. The axial force stays out.
+void TwoWebShear(State& s, double MyEd) {
+  const Section& c = s.section;
+  const bool firstFlange = static_cast<double>(c.tf2) * c.b2 > static_cast<double>(c.tf1) * c.b1;
+  if (firstFlange)
+    ShearResistancesOf(s, 0, MyEd, c.b1, c.tf1, 2);
+  else
+    ShearResistancesOf(s, 0, MyEd, c.b2, c.tf2, 2);
+}
+
+// The plate is the one flange of the plate families.
+void PlateShear(State& s, double MyEd) {
+  const Section& c = s.section;
+  ShearResistancesOf(s, 0, MyEd, c.b1, c.tf1, 1);
+}
+
+// The control at every check point: My with its sign in group 1, Vz in group 3.
+void InPlaneSectionControl(State& s, void (*shear)(State&, double MyEd)) {
+  Checks& k = s.checks;
+  Analysis& an = s.analysis;
+  const Section& c = s.section;
+  const Single lim = an.IRlimit;
+  auto F = [&s](double v) { return F1(s, v); };
+
+  // 1.
+  for (size_t g = 1; g <= 6; ++g) {
+    k.secText[g] = ControlText{};
+    k.IRsec[g] = 0;
+  }
+  double& IR1 = k.IRsec[1];
+  double& IR3 = k.IRsec[3];
+
+  // 2.
+  if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
+  for (int i = 0; i <= an.NPoints; ++i) {
+    const size_t ix = static_cast<size_t>(i);
+    const double x = an.ChPointXrel[ix];
+    k.MyEd = an.MyPt[ix];
+    k.VzEd = std::fabs(an.VzPt[ix]);
+    const double MyEd = k.MyEd, VzEd = k.VzEd;
+    const bool lowVz = VzEd < 0.5 * c.VzRd;
+
+    // a. The class and resistance of the sign.
+    if (MyEd != 0) {
+      k.classCur = MyEd > 0 ? c.classMyPos : c.classMyNeg;
+      k.MyRd = ToSingle(MyRdSignedPlated(s, k.classCur, MyEd));
+      const double MyAbs = std::fabs(MyEd);
+      const double ir = Div(MyAbs, k.MyRd);
+      if (Compete(ir, IR1, k.colSec[1], lim))
+        Write(s, k.secText[1], lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ",
+              F(MyAbs) + "/" + F(k.MyRd) + " = ", ir,
+              PointLimit(s, x, lowVz ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
+    }
+
+    // b. Shear, the label says Vz,Rd and the value is Vb,z,Rd.
+    if (VzEd != 0) {
+      shear(s, MyEd);
+      const double ir = Div(VzEd, c.VbzRd);
+      if (Compete(ir, IR3, k.colSec[3], lim))
+        Write(s, k.secText[3], "IR = Vz,Ed/Vz,Rd = ", F(VzEd) + "/" + F(c.VbzRd) + " = ", ir,
+              PointLimit(s, x, "L; Ch 6.2.6") + k.VbSuffix);
+    }
+  }
+
+  // 3. Group 2 stays empty.
+  an.IRsection = IR1 > k.IRsec[2] ? IR1 : k.IRsec[2];
+  if (IR3 > an.IRsection) an.IRsection = IR3;
+}
+
+}  // namespace
+
+double MyRdSignedPlated(State& s, double cls, double MyEd) {
+  Checks& k = s.checks;
+  const Section& c = s.section;
+  const Project& p = s.project;
+  RhoZOfPoint(s);
+  const double hw = c.hw, tw = c.tw, fyk = p.fyk;
+  const double webs = hw * hw * (2 * static_cast<double>(k.rhoZ) * tw);
+  const bool plastic = cls != 3 && cls != 4 && p.elasticClass12 == 0;
+  const double R = webs / (plastic ? 4 : 6) / 1000000 * fyk;
+  const double base = MyEd > 0 ? c.MyRdPos : c.MyRdNeg;
+  return ToSingle(base - Div(R, p.gammaM0));
+}
+
+void SectionControlHSQ(State& s) { InPlaneSectionControl(s, TwoWebShear); }
+
+void SectionControlPlate(State& s) { InPlaneSectionControl(s, PlateShear); }
+
+void BucklingControlPlate(State& s) {
+  Checks& k = s.checks;
+  // 1.
+  k.buckTextY = ControlText{};
+  k.buckTextZ = ControlText{};
+  k.buckTextLT = ControlText{};
+  // 2. The LT line alone, where the user has it on.
+  double IRlt = 0;
+  if (s.project.ltbOn == 1)
+    LateralTorsionalLine(s, kBucklingStyleI, IRlt);
+  else
+    k.xLT = 1;
+  // 3.
+  k.IRbuckY = 0;
+  k.IRbuckZ = 0;
+  k.IRbuckLT = IRlt;
+  s.analysis.IRbuckling = IRlt;
+}
+
+}  // namespace vn

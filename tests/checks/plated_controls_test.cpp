@@ -1,0 +1,150 @@
+// The controls of the girders loaded in their web plane: HSQ and the box with unequal flanges
+// (section control only) and the plates with a stiffener (section control and the LT line).
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "checks/control_framework.h"
+#include "checks/control_routines.h"
+#include "checks/section_control_fixture.h"
+#include "core/events.h"
+#include "core/pipeline.h"
+#include "results/summary.h"
+#include "sections/section_fixture.h"
+
+namespace vn::test {
+namespace {
+
+// Plate 240x12 with a flat bar 200x10, S235, gammas 1 (hand values in
+// tests/sections/plated_test.cpp): the plate compressed (positive My) is class 2 with
+// My,Rd = 50.8712 kNm, the bar's edge compressed (negative My) class 3 with My,Rd = 28.8599 kNm;
+// VzRd = 271.355 kN, a stocky web.
+State Plate() {
+  State s = SectionState();
+  s.project.ProfileType = 51;
+  s.project.p51 = {200, 240, 10, 12};
+  s.analysis.IRlimit = 1;
+  ComputeSection(s);
+  return s;
+}
+
+// HSQ 700x300/600x7x20/15 with the upgrade: positive My,Rd = 1193.306 (class 3 web upgraded),
+// negative My,Rd = 1527.987 (class 1).
+State HsqGirder() {
+  State s = SectionState();
+  s.project.ProfileType = 24;
+  s.project.p24 = {700, 300, 600, 7, 20, 15, 0, 50, 0};
+  s.project.hsqKind = 1;
+  s.analysis.IRlimit = 1;
+  ComputeSection(s);
+  return s;
+}
+
+// Equal moments of both signs, 20 kNm: 20/50.8712 = 0.393150 sagging and 20/28.8599 = 0.693002
+// hogging. The hogging point names the line in either order of the points.
+TEST(SectionControlPlate, TheWorseSignNamesItsPoint) {
+  for (const bool sagFirst : {true, false}) {
+    State s = Plate();
+    const float first = sagFirst ? 20.0f : -20.0f;
+    SetPoints(s, 0, {{0.25f, first, 0, 0, 0}, {0.75f, -first, 0, 0, 0}});
+    SectionControlPlate(s);
+    const Checks& k = s.checks;
+    EXPECT_TRUE(Near(k.IRsec[1], 0.693002, kHandCalc));
+    EXPECT_EQ(k.secText[1].Formula, "IR = My,Ed/My,Rd = ");
+    EXPECT_EQ(k.secText[1].Numbers, "20.0/28.9 = ");
+    EXPECT_EQ(k.secText[1].Ratio, "0.69");
+    EXPECT_EQ(k.secText[1].Limit, sagFirst ? " < 1.0 (0.75L; Ch 6.2.5)" : " < 1.0 (0.25L; Ch 6.2.5)");
+    EXPECT_TRUE(k.secText[2].Formula.empty());
+    EXPECT_TRUE(Near(s.analysis.IRsection, 0.693002, kHandCalc));
+  }
+}
+
+// Shear 200 kN on the stocky bar: 200/271.355 = 0.737043, closed by ")". Above half of VzRd
+// (135.7 kN) the moment resistance loses the share of two web thicknesses: rho = (400/271.355 -
+// 1)^2 = 0.224757, R = 200^2*(2*0.224757*10)/4*235/1e6 = 10.5636, so My,Rd = 50.8712 - 10.5636 =
+// 40.3076 and 20/40.3076 = 0.496184 with the MV text.
+TEST(SectionControlPlate, ShearAndTheReducedResistance) {
+  State s = Plate();
+  SetPoints(s, 0, {{0.0f, 0, 0, 0, 100}, {0.5f, 20, 0, 0, 200}});
+  SectionControlPlate(s);
+  const Checks& k = s.checks;
+  EXPECT_TRUE(Near(k.IRsec[3], 200 / 271.354627, kHandCalc));
+  EXPECT_EQ(k.secText[3].Formula, "IR = Vz,Ed/Vz,Rd = ");
+  EXPECT_EQ(k.secText[3].Limit, " < 1.0 (0.50L; Ch 6.2.6)");
+  EXPECT_TRUE(Near(k.MyRd, 40.307638, kHandCalc));
+  EXPECT_TRUE(Near(k.IRsec[1], 0.496184, kHandCalc));
+  EXPECT_EQ(k.secText[1].Formula, "IR = My,Ed/MV,y,Rd = ");
+  EXPECT_EQ(k.secText[1].Limit, " < 1.0 (0.50L; Ch 6.2.8)");
+}
+
+// The HSQ divides by the upgraded resistance under a sagging moment: 600/1193.306 = 0.502805,
+// and by the plastic one under hogging: 600/1527.987 = 0.392673.
+TEST(SectionControlHSQ, EachSignItsOwnResistance) {
+  State s = HsqGirder();
+  SetPoints(s, 0, {{0.3f, -600, 0, 0, 0}, {0.6f, 600, 0, 0, 0}});
+  SectionControlHSQ(s);
+  EXPECT_TRUE(Near(s.checks.IRsec[1], 0.502805, kHandCalc));
+  EXPECT_EQ(s.checks.secText[1].Numbers, "600.0/1193.3 = ");
+  EXPECT_EQ(s.checks.secText[1].Limit, " < 1.0 (0.60L; Ch 6.2.5)");
+  SetPoints(s, 0, {{0.3f, -600, 0, 0, 0}});
+  SectionControlHSQ(s);
+  EXPECT_TRUE(Near(s.checks.IRsec[1], 0.392673, kHandCalc));
+}
+
+// HSQ: the axial force is zeroed before the control and there is never a buckling line; the box
+// keeps its axial force in the shared value. The plate with ltbOn 0 has no buckling line either.
+TEST(PlatedControls, DispatcherRowsAndBucklingLines) {
+  State h = HsqGirder();
+  h.project.ltbOn = 1;
+  SetPoints(h, 300, {{0.5f, 600, 0, 0, 0}});
+  RunControls(h);
+  EXPECT_EQ(h.analysis.NEd, 0);
+  EXPECT_TRUE(h.checks.buckTextLT.Formula.empty());
+  EXPECT_EQ(h.analysis.IRbuckling, 0);
+
+  State b = SectionState();
+  b.project.ProfileType = 27;
+  b.project.p27 = {400, 300, 300, 10, 20, 20, 20};
+  b.analysis.IRlimit = 1;
+  ComputeSection(b);
+  SetPoints(b, 300, {{0.5f, 344.04f, 0, 0, 0}});
+  RunControls(b);
+  EXPECT_EQ(b.analysis.NEd, 300);
+  EXPECT_TRUE(Near(b.checks.IRsec[1], 0.5, kHandCalc));  // 344.04/688.08, the force ignored
+
+  State p = Plate();
+  p.project.ltbOn = 0;
+  SetPoints(p, 50, {{0.5f, -20, 0, 0, 10}});
+  RunControls(p);
+  EXPECT_EQ(p.analysis.NEd, 0);
+  EXPECT_TRUE(p.checks.buckTextLT.Formula.empty());
+  EXPECT_TRUE(p.checks.buckTextY.Formula.empty());
+  EXPECT_EQ(p.analysis.IRbuckling, 0);
+  EXPECT_EQ(p.checks.xLT, 1);
+}
+
+// Through the forms: a hogging load on a plate turns the LT control on and prints its line; a
+// sagging one turns it off at the end of the run, and the next run prints no buckling block.
+TEST(PlatedControls, PlateBucklingBlockFollowsTheSignOfTheMoment) {
+  State s = StartedState();
+  Fire(s, "mnuplateFb");
+  Fire(s, "CboLoadComb", "5");
+  Fire(s, "Loading.iq(1)", "-5");
+  Fire(s, "il", "4");
+  EXPECT_EQ(s.project.ltbOn, 1);
+  Fire(s, "il", "4");
+  EXPECT_NE(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
+  EXPECT_FALSE(s.checks.buckTextLT.Formula.empty());
+
+  Fire(s, "Loading.iq(1)", "5");
+  Fire(s, "il", "4");
+  EXPECT_EQ(s.project.ltbOn, 0);
+  EXPECT_EQ(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
+
+  Fire(s, "mnup24");
+  EXPECT_EQ(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
+  EXPECT_NE(SummaryText(s).find("SECTION CONTROL:"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vn::test
