@@ -27,12 +27,11 @@ ValueBlock::ValueBlock(QWidget* parent) : QWidget(parent), grid_(new QGridLayout
 }
 
 void ValueBlock::setLines(const std::vector<View::Line>& lines) {
-  const bool same = lines.size() == lines_.size() &&
-                    std::equal(lines.begin(), lines.end(), lines_.begin(),
-                               [](const View::Line& a, const View::Line& b) {
-                                 return a.label == b.label && a.value == b.value &&
-                                        a.unit == b.unit && a.tip == b.tip;
-                               });
+  const bool same =
+      lines.size() == lines_.size() &&
+      std::equal(lines.begin(), lines.end(), lines_.begin(), [](const View::Line& a, const View::Line& b) {
+        return a.label == b.label && a.value == b.value && a.unit == b.unit && a.tip == b.tip;
+      });
   if (same) return;
   lines_ = lines;
   while (QLayoutItem* item = grid_->takeAt(0)) {
@@ -67,8 +66,13 @@ QString ValueBlock::valueOf(const QString& label) const {
 SectionBlocks SplitSectionValues(const std::vector<View::Line>& lines) {
   SectionBlocks b;
   bool properties = false, capacity = false;
-  for (const View::Line& l : lines) {
-    if (l.label == "Cross Section Class: ") capacity = true;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const View::Line& l = lines[i];
+    // The capacity starts at the first class line, or at the heading just before it ("Top flange
+    // in compression").
+    const bool heading = l.value.empty() && l.unit.empty() && i + 1 < lines.size() &&
+                         lines[i + 1].label == "Cross Section Class: ";
+    if (l.label == "Cross Section Class: " || heading) capacity = true;
     if (l.label == "A =") properties = true;
     if (capacity)
       b.capacity.push_back(l);
@@ -86,12 +90,18 @@ namespace {
 
 // The caption of a typed dimension, from its field's name: "isttf1" is "tf1 =".
 QString FieldCaption(const std::string& field) {
-  static const std::pair<const char*, const char*> named[] = {
-      {"iload", "Max loading on one flange (%):"},
-      {"istax", "A ="},        {"istay", "Ay ="},       {"istaz", "Az ="},
-      {"istix", "Ix ="},       {"istiy", "Iy ="},       {"istiz", "Iz ="},
-      {"istiw", "Iw ="},       {"istwely", "Wel,y ="},  {"istwelz", "Wel,z ="},
-      {"istwply", "Wpl,y ="},  {"istwplz", "Wpl,z ="}};
+  static const std::pair<const char*, const char*> named[] = {{"iload", "Max loading on one flange (%):"},
+                                                              {"istax", "A ="},
+                                                              {"istay", "Ay ="},
+                                                              {"istaz", "Az ="},
+                                                              {"istix", "Ix ="},
+                                                              {"istiy", "Iy ="},
+                                                              {"istiz", "Iz ="},
+                                                              {"istiw", "Iw ="},
+                                                              {"istwely", "Wel,y ="},
+                                                              {"istwelz", "Wel,z ="},
+                                                              {"istwply", "Wpl,y ="},
+                                                              {"istwplz", "Wpl,z ="}};
   for (const auto& [name, caption] : named)
     if (field == name) return caption;
   const std::string bare = field.rfind("ist", 0) == 0 ? field.substr(3) : field;
@@ -145,7 +155,10 @@ constexpr DialogOption kOptions[] = {
 // ---- SectionDialog ----
 
 SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidget* owner)
-    : QDialog(owner), session_(session), family_(family), form_(family.dialog),
+    : QDialog(owner),
+      session_(session),
+      family_(family),
+      form_(family.dialog),
       bindings_(new Bindings(session, this)) {
   setObjectName(QString::fromStdString(form_));
   setAttribute(Qt::WA_DeleteOnClose);
@@ -217,8 +230,7 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   if (fields.empty()) left->addWidget(list_);
   // Typed dimensions: a plate with a stiffener has its plate (b1, t1 or tf1) and its stiffener
   // apart; the other families one frame.
-  auto fieldFrame = [this](const QString& caption, const std::vector<std::string>& names,
-                           QComboBox* list) {
+  auto fieldFrame = [this](const QString& caption, const std::vector<std::string>& names, QComboBox* list) {
     auto* g = new QGroupBox(caption);
     auto* l = new QGridLayout(g);
     int row = 0;
@@ -227,7 +239,8 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
       auto* edit = new QLineEdit;
       edit->setAlignment(Qt::AlignRight);
       // The general section's properties run to ten digits.
-      edit->setFixedWidth(fontMetrics().horizontalAdvance(form_ == "p41" ? "00000000000000" : "0000000.0") + 12);
+      edit->setFixedWidth(fontMetrics().horizontalAdvance(form_ == "p41" ? "00000000000000" : "0000000.0") +
+                          12);
       bindings_->field(edit, key(f.c_str()));
       l->addWidget(new QLabel(FieldCaption(f)), row, 0, Qt::AlignRight);
       l->addWidget(edit, row, 1);
@@ -312,8 +325,7 @@ void SectionDialog::refresh() {
   auto caption = s.view.text.find(key("pic1"));
   figureFrame_->setTitle(caption != s.view.text.end()
                              ? QString::fromStdString(caption->second)
-                             : (s.project.figureNotToScale != 0 ? "Figure not to scale"
-                                                                : "Figure to scale"));
+                             : (s.project.figureNotToScale != 0 ? "Figure not to scale" : "Figure to scale"));
 }
 
 bool SectionDialog::event(QEvent* event) {
