@@ -10,7 +10,7 @@ PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-d
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test test-comma test-sanitize bench clean
+.PHONY: all deps configure build run test test-comma test-sanitize format format-check bench clean
 
 all: build
 
@@ -51,6 +51,16 @@ test: build
 test-comma: build
 	@locale -a 2>/dev/null | grep -qi '^de_DE.utf-\?8$$' || $(SUDO) localedef -i de_DE -f UTF-8 de_DE.UTF-8
 	cd $(BUILD) && LC_ALL=de_DE.UTF-8 ctest --output-on-failure -j $(JOBS)
+
+# The layout of the sources (.clang-format): `make format` rewrites them, `make format-check` fails
+# on a file that differs.
+SOURCES = $(shell find src tests bench tools -name '*.cpp' -o -name '*.h')
+format:
+	clang-format -i $(SOURCES)
+format-check:
+	@command -v clang-format >/dev/null || { $(SUDO) apt-get update -qq && \
+	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq clang-format; }
+	@clang-format --dry-run --Werror $(SOURCES) && echo "format-check: every source keeps .clang-format"
 
 # The core tests once more under AddressSanitizer and UndefinedBehaviorSanitizer (without the
 # desktop program: the leak checker would report the libraries' own caches).

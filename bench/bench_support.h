@@ -37,10 +37,11 @@ inline State FullyLoadedMember(int combMode, int supportType) {
   for (int i = 1; i <= 4; ++i)
     l.uniform[i] = {2.0f * i, static_cast<Integer>(i % 3), static_cast<Integer>(i % 2), True};
   for (int i = 1; i <= 3; ++i)
-    l.trapezoid[i] = {1.0f * i, 2.0f * i, 0.5f * i, 1.5f * i + 1.5f, static_cast<Single>(i % 3),
-                      static_cast<Single>(i % 2), True};
+    l.trapezoid[i] = {
+        1.0f * i, 2.0f * i, 0.5f * i, 1.5f * i + 1.5f, static_cast<Single>(i % 3), static_cast<Single>(i % 2),
+        True};
   for (int i = 1; i <= 8; ++i)
-    l.point[i] = {static_cast<Integer>(i % 2), 3.0f * i, 0.65f * i, static_cast<Integer>(i % 3),
+    l.point[i] = {static_cast<Integer>(i % 2),       3.0f * i, 0.65f * i, static_cast<Integer>(i % 3),
                   static_cast<Integer>((i / 2) % 2), True};
   Recalculate(s);
   return s;

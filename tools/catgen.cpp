@@ -123,17 +123,15 @@ struct CatalogueFile {
   std::vector<Column> cols;
 };
 
-const std::vector<Column> kRolledI = {
-    {"number", 1},      {"h_mm", 1},        {"b_mm", 1},        {"tf_mm", 1},
-    {"tw_mm", 1},       {"r_mm", 1},        {"A_mm2", 1},       {"Iy_mm4", 1e6},
-    {"Iz_mm4", 1e6},    {"It_mm4", 1e6},    {"Iw_mm6", 1e9}};
+const std::vector<Column> kRolledI = {{"number", 1},   {"h_mm", 1},     {"b_mm", 1},    {"tf_mm", 1},
+                                      {"tw_mm", 1},    {"r_mm", 1},     {"A_mm2", 1},   {"Iy_mm4", 1e6},
+                                      {"Iz_mm4", 1e6}, {"It_mm4", 1e6}, {"Iw_mm6", 1e9}};
 
 const std::vector<Column> kBritishI = {
-    {"serial_1", 1},      {"serial_2", 1},      {"serial_3", 1},    {"g_kg_m", 1},
-    {"h_mm", 1},          {"b_mm", 1},          {"tw_mm", 1},       {"tf_mm", 1},
-    {"r_mm", 1},          {"A_mm2", 100},       {"S_m2_m", 1},      {"Iy_mm4", 1e4},
-    {"Wel_y_mm3", 1e3},   {"Wpl_y_mm3", 1e3},   {"Iz_mm4", 1e4},    {"Wel_z_mm3", 1e3},
-    {"Wpl_z_mm3", 1e3},   {"It_mm4", 1e4},      {"Iw_mm6", 1e9}};
+    {"serial_1", 1},    {"serial_2", 1},    {"serial_3", 1},    {"g_kg_m", 1},      {"h_mm", 1},
+    {"b_mm", 1},        {"tw_mm", 1},       {"tf_mm", 1},       {"r_mm", 1},        {"A_mm2", 100},
+    {"S_m2_m", 1},      {"Iy_mm4", 1e4},    {"Wel_y_mm3", 1e3}, {"Wpl_y_mm3", 1e3}, {"Iz_mm4", 1e4},
+    {"Wel_z_mm3", 1e3}, {"Wpl_z_mm3", 1e3}, {"It_mm4", 1e4},    {"Iw_mm6", 1e9}};
 
 std::vector<Column> Pfc() {
   std::vector<Column> c = kBritishI;
@@ -154,43 +152,130 @@ const std::vector<CatalogueFile>& Catalogues() {
       {"hea", 24, kRolledI},
       {"heb", 24, kRolledI},
       {"hem", 24, kRolledI},
-      {"ipe", 18,
-       {{"h_mm", 1}, {"b_mm", 1}, {"tf_mm", 1}, {"tw_mm", 1}, {"r_mm", 1}, {"A_mm2", 1},
-        {"Iy_mm4", 1e6}, {"Iz_mm4", 1e6}, {"It_mm4", 1e6}, {"Iw_mm6", 1e9}}},
-      {"upe", 14,
-       {{"h_mm", 1}, {"b_mm", 1}, {"tw_mm", 1}, {"tf_mm", 1}, {"r_mm", 1}, {"ey_mm", 1},
-        {"em_mm", 1}, {"A_mm2", 1}, {"Iy_mm4", 1e4}, {"Iz_mm4", 1e4}, {"Wpl_y_mm3", 1e3},
-        {"Wpl_z_mm3", 1e3}, {"It_mm4", 1e3}, {"Iw_mm6", 1e9}}},
-      {"shs", 101,
-       {{"h_mm", 1}, {"t_mm", 1}, {"A_mm2", 100}, {"I_mm4", 1e4}, {"Wpl_mm3", 1e3},
+      {"ipe",
+       18,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"tf_mm", 1},
+        {"tw_mm", 1},
+        {"r_mm", 1},
+        {"A_mm2", 1},
+        {"Iy_mm4", 1e6},
+        {"Iz_mm4", 1e6},
+        {"It_mm4", 1e6},
+        {"Iw_mm6", 1e9}}},
+      {"upe",
+       14,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"tw_mm", 1},
+        {"tf_mm", 1},
+        {"r_mm", 1},
+        {"ey_mm", 1},
+        {"em_mm", 1},
+        {"A_mm2", 1},
+        {"Iy_mm4", 1e4},
+        {"Iz_mm4", 1e4},
+        {"Wpl_y_mm3", 1e3},
+        {"Wpl_z_mm3", 1e3},
+        {"It_mm4", 1e3},
+        {"Iw_mm6", 1e9}}},
+      {"shs",
+       101,
+       {{"h_mm", 1}, {"t_mm", 1}, {"A_mm2", 100}, {"I_mm4", 1e4}, {"Wpl_mm3", 1e3}, {"It_mm4", 1e4}}},
+      {"rhs",
+       158,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"t_mm", 1},
+        {"A_mm2", 100},
+        {"Iy_mm4", 1e4},
+        {"Iz_mm4", 1e4},
+        {"Wpl_y_mm3", 1e3},
+        {"Wpl_z_mm3", 1e3},
         {"It_mm4", 1e4}}},
-      {"rhs", 158,
-       {{"h_mm", 1}, {"b_mm", 1}, {"t_mm", 1}, {"A_mm2", 100}, {"Iy_mm4", 1e4},
-        {"Iz_mm4", 1e4}, {"Wpl_y_mm3", 1e3}, {"Wpl_z_mm3", 1e3}, {"It_mm4", 1e4}}},
-      {"cfshs", 99,
-       {{"h_mm", 1}, {"b_mm", 1}, {"t_mm", 1}, {"A_mm2", 100}, {"I_mm4", 1e4},
-        {"Wpl_mm3", 1e3}, {"It_mm4", 1e4}}},
-      {"cfrhs", 116,
-       {{"h_mm", 1}, {"b_mm", 1}, {"t_mm", 1}, {"A_mm2", 100}, {"Iy_mm4", 1e4},
-        {"Iz_mm4", 1e4}, {"Wpl_y_mm3", 1e3}, {"Wpl_z_mm3", 1e3}, {"It_mm4", 1e4}}},
-      {"l1", 60,
-       {{"h_mm", 1}, {"t_mm", 1}, {"r_mm", 1}, {"A_mm2", 1}, {"e_mm", 1}, {"v_mm", 1},
-        {"u2_mm", 1}, {"u1_mm", 1}, {"I_mm4", 1e4}, {"Iu_mm4", 1e4}, {"Iv_mm4", 1e4}}},
-      {"l2", 49,
-       {{"h_mm", 1}, {"b_mm", 1}, {"t_mm", 1}, {"r_mm", 1}, {"A_mm2", 1}, {"ez_mm", 1},
-        {"ey_mm", 1}, {"v_long_tip_mm", 1}, {"v_short_tip_mm", 1}, {"u_heel_mm", 1},
-        {"u_long_tip_mm", 1}, {"tan_alpha", 1}, {"Iy_mm4", 1e4}, {"Iz_mm4", 1e4},
-        {"Iu_mm4", 1e4}, {"Iv_mm4", 1e4}}},
-      {"inp", 21,
-       {{"h_mm", 1}, {"b_mm", 1}, {"tf_mm", 1}, {"tw_mm", 1}, {"A_mm2", 1e3},
-        {"Iy_mm4", 1e6}, {"Wpl_y_mm3", 1e3}, {"Iz_mm4", 1e6}, {"Wpl_z_mm3", 1e3},
-        {"It_mm4", 1e3}, {"Iw_mm6", 1e9}}},
-      {"unp", 16,
-       {{"h_mm", 1}, {"b_mm", 1}, {"tw_mm", 1}, {"tf_mm", 1}, {"r1_mm", 1}, {"r2_mm", 1},
-        {"ey_mm", 1}, {"ey_plus_em_mm", 1}, {"A_mm2", 1}, {"Iy_mm4", 1e4}, {"Iz_mm4", 1e4},
-        {"It_mm4", 1e6}, {"Iw_mm6", 1e9}, {"Wpl_y_mm3", 1e3}, {"Wpl_z_mm3", 1e3}}},
-      {"l3", 11,
-       {{"h_mm", 1}, {"b_mm", 1}, {"t_mm", 1}, {"t2_mm", 1}, {"r_mm", 1}, {"r2_mm", 1}}},
+      {"cfshs",
+       99,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"t_mm", 1},
+        {"A_mm2", 100},
+        {"I_mm4", 1e4},
+        {"Wpl_mm3", 1e3},
+        {"It_mm4", 1e4}}},
+      {"cfrhs",
+       116,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"t_mm", 1},
+        {"A_mm2", 100},
+        {"Iy_mm4", 1e4},
+        {"Iz_mm4", 1e4},
+        {"Wpl_y_mm3", 1e3},
+        {"Wpl_z_mm3", 1e3},
+        {"It_mm4", 1e4}}},
+      {"l1",
+       60,
+       {{"h_mm", 1},
+        {"t_mm", 1},
+        {"r_mm", 1},
+        {"A_mm2", 1},
+        {"e_mm", 1},
+        {"v_mm", 1},
+        {"u2_mm", 1},
+        {"u1_mm", 1},
+        {"I_mm4", 1e4},
+        {"Iu_mm4", 1e4},
+        {"Iv_mm4", 1e4}}},
+      {"l2",
+       49,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"t_mm", 1},
+        {"r_mm", 1},
+        {"A_mm2", 1},
+        {"ez_mm", 1},
+        {"ey_mm", 1},
+        {"v_long_tip_mm", 1},
+        {"v_short_tip_mm", 1},
+        {"u_heel_mm", 1},
+        {"u_long_tip_mm", 1},
+        {"tan_alpha", 1},
+        {"Iy_mm4", 1e4},
+        {"Iz_mm4", 1e4},
+        {"Iu_mm4", 1e4},
+        {"Iv_mm4", 1e4}}},
+      {"inp",
+       21,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"tf_mm", 1},
+        {"tw_mm", 1},
+        {"A_mm2", 1e3},
+        {"Iy_mm4", 1e6},
+        {"Wpl_y_mm3", 1e3},
+        {"Iz_mm4", 1e6},
+        {"Wpl_z_mm3", 1e3},
+        {"It_mm4", 1e3},
+        {"Iw_mm6", 1e9}}},
+      {"unp",
+       16,
+       {{"h_mm", 1},
+        {"b_mm", 1},
+        {"tw_mm", 1},
+        {"tf_mm", 1},
+        {"r1_mm", 1},
+        {"r2_mm", 1},
+        {"ey_mm", 1},
+        {"ey_plus_em_mm", 1},
+        {"A_mm2", 1},
+        {"Iy_mm4", 1e4},
+        {"Iz_mm4", 1e4},
+        {"It_mm4", 1e6},
+        {"Iw_mm6", 1e9},
+        {"Wpl_y_mm3", 1e3},
+        {"Wpl_z_mm3", 1e3}}},
+      {"l3", 11, {{"h_mm", 1}, {"b_mm", 1}, {"t_mm", 1}, {"t2_mm", 1}, {"r_mm", 1}, {"r2_mm", 1}}},
       {"hp", 47, {{"h_mm", 1}, {"t_mm", 1}, {"c_mm", 1}, {"r_mm", 1}, {"A_mm2", 100}}},
       {"ub", 81, kBritishI},
       {"ubp", 18, kBritishI},
@@ -218,14 +303,15 @@ std::string BuildCatalogue(const std::string& srcDir, const CatalogueFile& f) {
                              " columns, source");
   for (size_t c = 0; c < k; ++c)
     if (t.header[c + 1] != f.cols[c].name)
-      throw std::runtime_error(path + ": column " + std::to_string(c + 1) + " must be " +
-                               f.cols[c].name + ", not " + t.header[c + 1]);
+      throw std::runtime_error(path + ": column " + std::to_string(c + 1) + " must be " + f.cols[c].name +
+                               ", not " + t.header[c + 1]);
   if (static_cast<int>(t.rows.size()) != f.rows)
     throw std::runtime_error(path + ": " + std::to_string(t.rows.size()) + " rows, the file holds " +
                              std::to_string(f.rows));
   std::string out;
   for (const Row& r : t.rows) {
-    if (r.size() != t.header.size()) throw std::runtime_error(path + ": row " + r.front() + " has a wrong cell count");
+    if (r.size() != t.header.size())
+      throw std::runtime_error(path + ": row " + r.front() + " has a wrong cell count");
     for (size_t c = 0; c < k; ++c) {
       double v = ParseCell(r[c + 1], path + " " + r.front() + " " + f.cols[c].name);
       PutSingle(out, static_cast<float>(v / f.cols[c].factor));
@@ -279,8 +365,7 @@ std::string BuildSetup(const std::string& srcDir) {
 
 std::map<std::string, std::string> BuildAll(const std::string& srcDir) {
   std::map<std::string, std::string> files;
-  for (const CatalogueFile& f : Catalogues())
-    files[std::string(f.name) + ".dat"] = BuildCatalogue(srcDir, f);
+  for (const CatalogueFile& f : Catalogues()) files[std::string(f.name) + ".dat"] = BuildCatalogue(srcDir, f);
   files["VarneltECmat.dat"] = BuildSteelGrades(srcDir);
   files["VarneltEC3Setup.dat"] = BuildSetup(srcDir);
   return files;
@@ -409,9 +494,17 @@ Flange Sloped(double tf, double slope, double yRef, double yWeb, double yToe) {
 // centreline (b/4 for flanges sloping as DIN 1025-1 and BS 4-1 joists).
 Poly ISection(double h, double b, double tw, double tf, double r1, double r2, double slope, double yRef) {
   const Flange f = Sloped(tf, slope, yRef, tw / 2, b / 2);
-  const Poly pts = {{-b / 2, -h / 2}, {b / 2, -h / 2},  {b / 2, -h / 2 + f.toe},  {tw / 2, -h / 2 + f.root},
-                    {tw / 2, h / 2 - f.root}, {b / 2, h / 2 - f.toe}, {b / 2, h / 2}, {-b / 2, h / 2},
-                    {-b / 2, h / 2 - f.toe}, {-tw / 2, h / 2 - f.root}, {-tw / 2, -h / 2 + f.root},
+  const Poly pts = {{-b / 2, -h / 2},
+                    {b / 2, -h / 2},
+                    {b / 2, -h / 2 + f.toe},
+                    {tw / 2, -h / 2 + f.root},
+                    {tw / 2, h / 2 - f.root},
+                    {b / 2, h / 2 - f.toe},
+                    {b / 2, h / 2},
+                    {-b / 2, h / 2},
+                    {-b / 2, h / 2 - f.toe},
+                    {-tw / 2, h / 2 - f.root},
+                    {-tw / 2, -h / 2 + f.root},
                     {-b / 2, -h / 2 + f.toe}};
   return Rounded(pts, {0, 0, r2, r1, r1, r2, 0, 0, r2, r1, r1, r2});
 }
@@ -419,7 +512,7 @@ Poly ISection(double h, double b, double tw, double tf, double r1, double r2, do
 // Channel, back of the web at y = 0; tf is measured at yRef from the back (b/2 for DIN 1026-1).
 Poly Channel(double h, double b, double tw, double tf, double r1, double r2, double slope, double yRef) {
   const Flange f = Sloped(tf, slope, yRef, tw, b);
-  const Poly pts = {{0, -h / 2},         {b, -h / 2},         {b, -h / 2 + f.toe}, {tw, -h / 2 + f.root},
+  const Poly pts = {{0, -h / 2},          {b, -h / 2},        {b, -h / 2 + f.toe}, {tw, -h / 2 + f.root},
                     {tw, h / 2 - f.root}, {b, h / 2 - f.toe}, {b, h / 2},          {0, h / 2}};
   return Rounded(pts, {0, 0, r2, r1, r1, r2, 0, 0});
 }
@@ -428,7 +521,8 @@ Poly Channel(double h, double b, double tw, double tf, double r1, double r2, dou
 // two flanges, the web, the two web-to-flange junctions, the four free ends.
 double TorsionI(double h, double b, double tw, double tf, double r) {
   const double T = tf, t = tw;
-  const double a1 = -0.042 + 0.2204 * t / T + 0.1355 * r / T - 0.0865 * r * t / (T * T) - 0.0725 * t * t / (T * T);
+  const double a1 =
+      -0.042 + 0.2204 * t / T + 0.1355 * r / T - 0.0865 * r * t / (T * T) - 0.0725 * t * t / (T * T);
   const double d1 = ((T + r) * (T + r) + (r + 0.25 * t) * t) / (2 * r + T);
   return 2.0 / 3 * b * std::pow(T, 3) + (h - 2 * T) * std::pow(t, 3) / 3 + 2 * a1 * std::pow(d1, 4) -
          0.420 * std::pow(T, 4);
@@ -440,7 +534,8 @@ double TorsionSlopedI(double h, double b, double tw, double tf, double r1, doubl
   const Flange f = Sloped(tf, slope, yRef, tw / 2, b / 2);
   const double out = (b - tw) / 2;
   const double T = f.root, t = tw, r = r1;
-  const double a1 = -0.042 + 0.2204 * t / T + 0.1355 * r / T - 0.0865 * r * t / (T * T) - 0.0725 * t * t / (T * T);
+  const double a1 =
+      -0.042 + 0.2204 * t / T + 0.1355 * r / T - 0.0865 * r * t / (T * T) - 0.0725 * t * t / (T * T);
   const double d1 = ((T + r) * (T + r) + (r + 0.25 * t) * t) / (2 * r + T);
   return 4 * out * (f.root + f.toe) * (f.root * f.root + f.toe * f.toe) / 12 + 2 * tw * std::pow(T, 3) / 3 +
          (h - 2 * T) * std::pow(t, 3) / 3 + 2 * a1 * std::pow(d1, 4) - 0.420 * std::pow(T, 4);
@@ -449,7 +544,8 @@ double TorsionSlopedI(double h, double b, double tw, double tf, double r1, doubl
 // Torsion constant of a channel (section tables' formula for channels).
 double TorsionChannel(double h, double b, double tw, double tf, double r) {
   const double T = tf, t = tw;
-  const double a3 = -0.0908 + 0.2621 * t / T + 0.1231 * r / T - 0.0752 * t * r / (T * T) - 0.0945 * (t / T) * (t / T);
+  const double a3 =
+      -0.0908 + 0.2621 * t / T + 0.1231 * r / T - 0.0752 * t * r / (T * T) - 0.0945 * (t / T) * (t / T);
   const double d3 = 2 * ((3 * r + t + T) - std::sqrt(2 * (2 * r + t) * (2 * r + T)));
   return 2.0 / 3 * b * std::pow(T, 3) + (h - 2 * T) * std::pow(t, 3) / 3 + 2 * a3 * std::pow(d3, 4) -
          0.420 * std::pow(T, 4);
@@ -493,7 +589,8 @@ void DeriveInp(const std::string& src) {
   Table t = ReadCsv(JoinPath(src, "inp.csv"));
   std::cout << "# inp: INP 425 and 475 from DIN 1025-1 geometry (14 % slope, tf at b/4 from the toe)\n";
   auto geom = [&](const Row& r) {
-    const double h = Cell(t, r, "h_mm"), b = Cell(t, r, "b_mm"), tw = Cell(t, r, "tw_mm"), tf = Cell(t, r, "tf_mm");
+    const double h = Cell(t, r, "h_mm"), b = Cell(t, r, "b_mm"), tw = Cell(t, r, "tw_mm"),
+                 tf = Cell(t, r, "tf_mm");
     return std::array<double, 4>{h, b, tw, tf};
   };
   // Ratio of the published It and Iw to the formulas, for the published neighbours.
@@ -524,10 +621,9 @@ void DeriveInp(const std::string& src) {
     const double kIt = (qa[0] + qb[0]) / 2, kIw = (qa[1] + qb[1]) / 2;
     std::cout << r[0] << ": A outline " << Sig(p.A, 5) << " Iy " << Sig(p.Iy) << " Wpl_y "
               << Sig(PlasticModulus(poly, true)) << " Iz " << Sig(p.Iz) << " Wpl_z "
-              << Sig(PlasticModulus(poly, false)) << " It formula " << Sig(it) << " x " << Sig(kIt)
-              << " = " << Sig(it * kIt) << " Iw formula " << Sig(iw) << " x " << Sig(kIw) << " = "
-              << Sig(iw * kIw) << " Wel_y " << Sig(p.Iy / (h / 2)) << " Wel_z " << Sig(p.Iz / (b / 2))
-              << "\n";
+              << Sig(PlasticModulus(poly, false)) << " It formula " << Sig(it) << " x " << Sig(kIt) << " = "
+              << Sig(it * kIt) << " Iw formula " << Sig(iw) << " x " << Sig(kIw) << " = " << Sig(iw * kIw)
+              << " Wel_y " << Sig(p.Iy / (h / 2)) << " Wel_z " << Sig(p.Iz / (b / 2)) << "\n";
   }
 }
 
@@ -556,7 +652,8 @@ void DeriveBritishTapered(const std::string& src, bool channel) {
       const double em = ys - tw / 2 + e0;
       o << Sig(p.Iz / (b - ys)) << "," << Sig(PlasticModulus(poly, false)) << ","
         << Sig(TorsionChannel(h, b, tw, tf, r1)) << "," << Sig(ChannelWarping(h, tw, tf, p.A, p.Iy, p.Iz, ys))
-        << "," << Sig(ys, 4) << "," << Sig(ys + em, 4) << "  (e0 " << Sig(e0, 4) << ", em " << Sig(em, 4) << ")";
+        << "," << Sig(ys, 4) << "," << Sig(ys + em, 4) << "  (e0 " << Sig(e0, 4) << ", em " << Sig(em, 4)
+        << ")";
     } else {
       o << Sig(p.Iz / (b / 2)) << "," << Sig(PlasticModulus(poly, false)) << ","
         << Sig(TorsionI(h, b, tw, tf, r1)) << "," << Sig(p.Iz * (h - tf) * (h - tf) / 4);
@@ -571,10 +668,10 @@ void DeriveUbp(double h, double b, double tw, double tf, double r) {
   const Poly poly = ISection(h, b, tw, tf, r, 0, 0, 0);
   const Props p = Properties(poly);
   std::cout << "# ubp: UBP " << h << "x" << b << ": A " << Sig(p.A) << " g " << Sig(p.A * 7850e-6, 4) << " S "
-            << Sig(p.perimeter / 1000, 3) << " Iy " << Sig(p.Iy) << " Wel_y " << Sig(p.Iy / (h / 2)) << " Wpl_y "
-            << Sig(PlasticModulus(poly, true)) << " Iz " << Sig(p.Iz) << " Wel_z " << Sig(p.Iz / (b / 2))
-            << " Wpl_z " << Sig(PlasticModulus(poly, false)) << " It " << Sig(TorsionI(h, b, tw, tf, r))
-            << " Iw " << Sig(p.Iz * (h - tf) * (h - tf) / 4) << "\n";
+            << Sig(p.perimeter / 1000, 3) << " Iy " << Sig(p.Iy) << " Wel_y " << Sig(p.Iy / (h / 2))
+            << " Wpl_y " << Sig(PlasticModulus(poly, true)) << " Iz " << Sig(p.Iz) << " Wel_z "
+            << Sig(p.Iz / (b / 2)) << " Wpl_z " << Sig(PlasticModulus(poly, false)) << " It "
+            << Sig(TorsionI(h, b, tw, tf, r)) << " Iw " << Sig(p.Iz * (h - tf) * (h - tf) / 4) << "\n";
 }
 
 // Cold formed square hollow section (EN 10219-2): outer corner radius 2t (t <= 6), 2.5t (t <= 10),
@@ -582,9 +679,11 @@ void DeriveUbp(double h, double b, double tw, double tf, double r) {
 // enclosed by the mid-line, K = 2 Ah t / p.
 void DeriveColdFormedSquare(double b, double t) {
   const double ro = t <= 6 ? 2 * t : (t <= 10 ? 2.5 * t : 3 * t), ri = ro - t;
-  Poly outer = Rounded({{-b / 2, -b / 2}, {b / 2, -b / 2}, {b / 2, b / 2}, {-b / 2, b / 2}}, {ro, ro, ro, ro});
+  Poly outer =
+      Rounded({{-b / 2, -b / 2}, {b / 2, -b / 2}, {b / 2, b / 2}, {-b / 2, b / 2}}, {ro, ro, ro, ro});
   const double bi = b - 2 * t;
-  Poly inner = Rounded({{-bi / 2, -bi / 2}, {bi / 2, -bi / 2}, {bi / 2, bi / 2}, {-bi / 2, bi / 2}}, {ri, ri, ri, ri});
+  Poly inner =
+      Rounded({{-bi / 2, -bi / 2}, {bi / 2, -bi / 2}, {bi / 2, bi / 2}, {-bi / 2, bi / 2}}, {ri, ri, ri, ri});
   const Props po = Properties(outer), pi = Properties(inner);
   const double A = po.A - pi.A, I = po.Iy - pi.Iy;
   const double wpl = PlasticModulus(outer, true) - PlasticModulus(inner, true);
@@ -605,8 +704,10 @@ void DeriveBulbFlats(const std::string& src) {
   Table t = ReadCsv(JoinPath(src, "hp.csv"));
   std::cout << "# hp: designation, A (mm2)\n";
   for (const Row& r : t.rows) {
-    const double h = Cell(t, r, "h_mm"), tw = Cell(t, r, "t_mm"), c = Cell(t, r, "c_mm"), rr = Cell(t, r, "r_mm");
-    const double bulb = 2 * rr * c - 2 * rr * rr * (1 - kPi / 4) + (c - rr) * (c - rr) * std::tan(kPi / 6) / 2;
+    const double h = Cell(t, r, "h_mm"), tw = Cell(t, r, "t_mm"), c = Cell(t, r, "c_mm"),
+                 rr = Cell(t, r, "r_mm");
+    const double bulb =
+        2 * rr * c - 2 * rr * rr * (1 - kPi / 4) + (c - rr) * (c - rr) * std::tan(kPi / 6) / 2;
     std::cout << r[0] << "," << Sig(tw * h + bulb, 4) << "\n";
   }
 }
@@ -618,7 +719,8 @@ void DeriveUnequalAngles(const std::string& src) {
   Table t = ReadCsv(JoinPath(src, "l2.csv"));
   std::cout << "# l2: designation,v_long_tip,v_short_tip,u_heel,u_long_tip\n";
   for (const Row& r : t.rows) {
-    const double h = Cell(t, r, "h_mm"), b = Cell(t, r, "b_mm"), ez = Cell(t, r, "ez_mm"), ey = Cell(t, r, "ey_mm");
+    const double h = Cell(t, r, "h_mm"), b = Cell(t, r, "b_mm"), ez = Cell(t, r, "ez_mm"),
+                 ey = Cell(t, r, "ey_mm");
     const double a = std::atan(Cell(t, r, "tan_alpha")), s = std::sin(a), c = std::cos(a);
     std::cout << r[0] << "," << Sig(ey * s + (h - ez) * c, 3) << "," << Sig((b - ey) * s + ez * c, 3) << ","
               << Sig(ey * c + ez * s, 3) << "," << Sig((h - ez) * s - ey * c, 3) << "\n";

@@ -97,7 +97,7 @@ struct Analysis {
   Single IRlimit = 1.0f;
 
   // Modal analysis.
-  Single ModalMass = 0;                // kg/m
+  Single ModalMass = 0;               // kg/m
   std::array<Single, 4> ModalFreq{};  // Hz, modes 1..3
 
   // Whether any load, moment or shear lies in the plane of y or of z: set by the chart stage, read

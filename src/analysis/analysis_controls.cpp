@@ -73,10 +73,8 @@ void RefreshEndForces(State& s) {
   // The fields the family can carry: one bending axis shows no z forces, the T only N.
   const int type = p.ProfileType;
   const bool zShown = !ZFieldsHidden(type), yShown = type != 26;
-  for (const char* f : {"imz1", "imz2", "ivy1", "ivy2"})
-    v.visible[std::string("endforce.") + f] = zShown;
-  for (const char* f : {"imy1", "imy2", "ivz1", "ivz2"})
-    v.visible[std::string("endforce.") + f] = yShown;
+  for (const char* f : {"imz1", "imz2", "ivy1", "ivy2"}) v.visible[std::string("endforce.") + f] = zShown;
+  for (const char* f : {"imy1", "imy2", "ivz1", "ivz2"}) v.visible[std::string("endforce.") + f] = yShown;
 }
 
 void ActivateEndForces(State& s) {
@@ -105,9 +103,7 @@ void AddEndForceField(ControlTable& t, const char* name, Single Project::*scalar
     s.view.text[self] = r.text;
     if (!r.refused && self == "endforce.ivz2") {
       const int type = s.project.ProfileType;
-      r.focus = type == 26              ? "endforce.ine"
-                : ZFieldsHidden(type) ? "endforce.imy1"
-                                      : "endforce.imz1";
+      r.focus = type == 26 ? "endforce.ine" : ZFieldsHidden(type) ? "endforce.imy1" : "endforce.imz1";
     }
     if (s.recalcCount == before) Recalculate(s);
     return r;
@@ -213,17 +209,15 @@ void RegisterAnalysisControls(ControlTable& t) {
     });
   }
   for (int relative = 0; relative <= 1; ++relative) {
-    AddControl(t, cp, relative ? "cprelative" : "cpabsolute",
-               [relative](State& s, int, std::string_view) {
-                 s.project.ChPointRelative = static_cast<Integer>(relative);
-                 Recalculate(s);
-                 RefreshCheckPointTable(s);
-                 return EventResult{};
-               });
+    AddControl(t, cp, relative ? "cprelative" : "cpabsolute", [relative](State& s, int, std::string_view) {
+      s.project.ChPointRelative = static_cast<Integer>(relative);
+      Recalculate(s);
+      RefreshCheckPointTable(s);
+      return EventResult{};
+    });
   }
-  AddControl(t, cp, "icp", [](State& s, int i, std::string_view text) {
-    return CheckPointField(s, i, text);
-  }, 1, 3);
+  AddControl(
+      t, cp, "icp", [](State& s, int i, std::string_view text) { return CheckPointField(s, i, text); }, 1, 3);
   AddControl(t, cp, "Activate", [](State& s, int, std::string_view) {
     RefreshCheckPointTable(s);
     return EventResult{};

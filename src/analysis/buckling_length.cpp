@@ -16,10 +16,14 @@ namespace {
 // else 6 (typed); case 5 shows button 5. The factor is compared exactly, as a Single.
 int BucklingPicture(Single factor, Integer bucklingCase) {
   int pic = 6;
-  if (factor == 2.0f) pic = 1;
-  else if (factor == 1.0f) pic = 2;
-  else if (factor == 0.7f) pic = 3;
-  else if (factor == 0.5f) pic = 4;
+  if (factor == 2.0f)
+    pic = 1;
+  else if (factor == 1.0f)
+    pic = 2;
+  else if (factor == 0.7f)
+    pic = 3;
+  else if (factor == 0.5f)
+    pic = 4;
   if (bucklingCase == 5) pic = 5;
   return pic;
 }
@@ -56,7 +60,9 @@ void ApplySupportTypeToBuckling(State& s) {
   Project& p = s.project;
   int c;
   switch (p.SupportType) {
-    case 0: case 3: case 5: c = 2; break;
+    case 0:
+    case 3:
+    case 5: c = 2; break;
     case 1: c = 3; break;
     case 2: c = 4; break;
     case 4: c = 1; break;

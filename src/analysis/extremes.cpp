@@ -85,8 +85,7 @@ void Inflections(const std::array<Single, 51>& M, Single& first, Single& second)
   second = find(25, 49);
 }
 
-void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis,
-                   MomentShape& sh) {
+void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis, MomentShape& sh) {
   // The inner peak: the largest magnitude in 12..38, the first one on a tie.
   int ki = 0;
   double best = 0;

@@ -115,8 +115,10 @@ bool PointSlotKept(const PointLoad& p, int supportType, Single L) {
     return p.x != 0 && p.x < L;
   }
   switch (supportType) {
-    case 0: case 3: return p.x <= L;
-    case 1: case 5: return p.x < L;
+    case 0:
+    case 3: return p.x <= L;
+    case 1:
+    case 5: return p.x < L;
     default: return p.x != 0 && p.x < L;  // 2 and 4
   }
 }
@@ -189,8 +191,8 @@ void RefreshLoadTable(State& s) {
   // The ticks count in "Basic loads" only, and only there can they be seen.
   const bool basic = p.LoadCombMode == 5, user = p.LoadCombMode == 4;
   v.visible["Loading.frPsi"] = !basic && !user;
-  for (const char* frame : {"Loading.frN", "Loading.frq", "Loading.frqt", "Loading.frPM",
-                            "Loading.CmdRemove"})
+  for (const char* frame :
+       {"Loading.frN", "Loading.frq", "Loading.frqt", "Loading.frPM", "Loading.CmdRemove"})
     v.visible[frame] = basic;
 }
 
@@ -305,91 +307,150 @@ void RegisterLoadingDialogControls(ControlTable& t) {
   });
 
   // Axial forces.
-  AddControl(t, kForm, "inn", [](State& s, int i, std::string_view text) {
-    return ValueField(s, Self("inn", i), s.loads.axial[i].N, text);
-  }, 1, 3);
-  AddControl(t, kForm, "inn_gq", [](State& s, int i, std::string_view) {
-    s.loads.axial[i].Case = static_cast<Single>(NextCase(s.loads.axial[i].Case));
-    return Changed(s);
-  }, 1, 3);
-  AddControl(t, kForm, "ch_nn", [](State& s, int i, std::string_view text) {
-    s.loads.axial[i].Checked = ToBoolean(Ticked(text));
-    return Changed(s);
-  }, 1, 3);
+  AddControl(
+      t, kForm, "inn",
+      [](State& s, int i, std::string_view text) {
+        return ValueField(s, Self("inn", i), s.loads.axial[i].N, text);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "inn_gq",
+      [](State& s, int i, std::string_view) {
+        s.loads.axial[i].Case = static_cast<Single>(NextCase(s.loads.axial[i].Case));
+        return Changed(s);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "ch_nn",
+      [](State& s, int i, std::string_view text) {
+        s.loads.axial[i].Checked = ToBoolean(Ticked(text));
+        return Changed(s);
+      },
+      1, 3);
 
   // Uniform loads.
-  AddControl(t, kForm, "iq", [](State& s, int i, std::string_view text) {
-    return ValueField(s, Self("iq", i), s.loads.uniform[i].q, text);
-  }, 1, 4);
-  AddControl(t, kForm, "iq_gq", [](State& s, int i, std::string_view) {
-    s.loads.uniform[i].Case = static_cast<Integer>(NextCase(s.loads.uniform[i].Case));
-    return Changed(s);
-  }, 1, 4);
-  AddControl(t, kForm, "iq_yz", [](State& s, int i, std::string_view) {
-    UniformLoad& q = s.loads.uniform[i];
-    q.Dir = q.Dir == 0 ? 1 : 0;
-    return Changed(s);
-  }, 1, 4);
-  AddControl(t, kForm, "ch_q", [](State& s, int i, std::string_view text) {
-    s.loads.uniform[i].Checked = ToBoolean(Ticked(text));
-    return Changed(s);
-  }, 1, 4);
+  AddControl(
+      t, kForm, "iq",
+      [](State& s, int i, std::string_view text) {
+        return ValueField(s, Self("iq", i), s.loads.uniform[i].q, text);
+      },
+      1, 4);
+  AddControl(
+      t, kForm, "iq_gq",
+      [](State& s, int i, std::string_view) {
+        s.loads.uniform[i].Case = static_cast<Integer>(NextCase(s.loads.uniform[i].Case));
+        return Changed(s);
+      },
+      1, 4);
+  AddControl(
+      t, kForm, "iq_yz",
+      [](State& s, int i, std::string_view) {
+        UniformLoad& q = s.loads.uniform[i];
+        q.Dir = q.Dir == 0 ? 1 : 0;
+        return Changed(s);
+      },
+      1, 4);
+  AddControl(
+      t, kForm, "ch_q",
+      [](State& s, int i, std::string_view text) {
+        s.loads.uniform[i].Checked = ToBoolean(Ticked(text));
+        return Changed(s);
+      },
+      1, 4);
 
   // Trapezoidal loads.
-  AddControl(t, kForm, "iqt1", [](State& s, int i, std::string_view text) {
-    return ValueField(s, Self("iqt1", i), s.loads.trapezoid[i].q1, text);
-  }, 1, 3);
-  AddControl(t, kForm, "iqt2", [](State& s, int i, std::string_view text) {
-    return ValueField(s, Self("iqt2", i), s.loads.trapezoid[i].q2, text);
-  }, 1, 3);
-  AddControl(t, kForm, "iqtx1", [](State& s, int i, std::string_view text) {
-    return PositionField(s, Self("iqtx1", i), s.loads.trapezoid[i].x1, s.loads.TrapezoidXRelative,
-                         "x1", text);
-  }, 1, 3);
-  AddControl(t, kForm, "iqtx2", [](State& s, int i, std::string_view text) {
-    return PositionField(s, Self("iqtx2", i), s.loads.trapezoid[i].x2, s.loads.TrapezoidXRelative,
-                         "x2", text);
-  }, 1, 3);
-  AddControl(t, kForm, "iqt_gq", [](State& s, int i, std::string_view) {
-    s.loads.trapezoid[i].Case = static_cast<Single>(NextCase(s.loads.trapezoid[i].Case));
-    return Changed(s);
-  }, 1, 3);
-  AddControl(t, kForm, "iqt_yz", [](State& s, int i, std::string_view) {
-    TrapezoidLoad& q = s.loads.trapezoid[i];
-    q.Dir = q.Dir == 0.0f ? 1.0f : 0.0f;
-    return Changed(s);
-  }, 1, 3);
-  AddControl(t, kForm, "ch_qt", [](State& s, int i, std::string_view text) {
-    s.loads.trapezoid[i].Checked = ToBoolean(Ticked(text));
-    return Changed(s);
-  }, 1, 3);
+  AddControl(
+      t, kForm, "iqt1",
+      [](State& s, int i, std::string_view text) {
+        return ValueField(s, Self("iqt1", i), s.loads.trapezoid[i].q1, text);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "iqt2",
+      [](State& s, int i, std::string_view text) {
+        return ValueField(s, Self("iqt2", i), s.loads.trapezoid[i].q2, text);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "iqtx1",
+      [](State& s, int i, std::string_view text) {
+        return PositionField(s, Self("iqtx1", i), s.loads.trapezoid[i].x1, s.loads.TrapezoidXRelative, "x1",
+                             text);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "iqtx2",
+      [](State& s, int i, std::string_view text) {
+        return PositionField(s, Self("iqtx2", i), s.loads.trapezoid[i].x2, s.loads.TrapezoidXRelative, "x2",
+                             text);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "iqt_gq",
+      [](State& s, int i, std::string_view) {
+        s.loads.trapezoid[i].Case = static_cast<Single>(NextCase(s.loads.trapezoid[i].Case));
+        return Changed(s);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "iqt_yz",
+      [](State& s, int i, std::string_view) {
+        TrapezoidLoad& q = s.loads.trapezoid[i];
+        q.Dir = q.Dir == 0.0f ? 1.0f : 0.0f;
+        return Changed(s);
+      },
+      1, 3);
+  AddControl(
+      t, kForm, "ch_qt",
+      [](State& s, int i, std::string_view text) {
+        s.loads.trapezoid[i].Checked = ToBoolean(Ticked(text));
+        return Changed(s);
+      },
+      1, 3);
 
   // Point forces and moments.
-  AddControl(t, kForm, "ipm", [](State& s, int i, std::string_view text) {
-    return ValueField(s, Self("ipm", i), s.loads.point[i].Value, text);
-  }, 1, 8);
-  AddControl(t, kForm, "ipmx", [](State& s, int i, std::string_view text) {
-    return PositionField(s, Self("ipmx", i), s.loads.point[i].x, s.loads.PointLoadXRelative, "x",
-                         text);
-  }, 1, 8);
-  AddControl(t, kForm, "ipm_pm", [](State& s, int i, std::string_view) {
-    PointLoad& pl = s.loads.point[i];
-    pl.Kind = pl.Kind == 1 ? 0 : 1;
-    return Changed(s);
-  }, 1, 8);
-  AddControl(t, kForm, "ipm_gq", [](State& s, int i, std::string_view) {
-    s.loads.point[i].Case = static_cast<Integer>(NextCase(s.loads.point[i].Case));
-    return Changed(s);
-  }, 1, 8);
-  AddControl(t, kForm, "ipm_yz", [](State& s, int i, std::string_view) {
-    PointLoad& pl = s.loads.point[i];
-    pl.Dir = pl.Dir == 0 ? 1 : 0;
-    return Changed(s);
-  }, 1, 8);
-  AddControl(t, kForm, "ch_pm", [](State& s, int i, std::string_view text) {
-    s.loads.point[i].Checked = ToBoolean(Ticked(text));
-    return Changed(s);
-  }, 1, 8);
+  AddControl(
+      t, kForm, "ipm",
+      [](State& s, int i, std::string_view text) {
+        return ValueField(s, Self("ipm", i), s.loads.point[i].Value, text);
+      },
+      1, 8);
+  AddControl(
+      t, kForm, "ipmx",
+      [](State& s, int i, std::string_view text) {
+        return PositionField(s, Self("ipmx", i), s.loads.point[i].x, s.loads.PointLoadXRelative, "x", text);
+      },
+      1, 8);
+  AddControl(
+      t, kForm, "ipm_pm",
+      [](State& s, int i, std::string_view) {
+        PointLoad& pl = s.loads.point[i];
+        pl.Kind = pl.Kind == 1 ? 0 : 1;
+        return Changed(s);
+      },
+      1, 8);
+  AddControl(
+      t, kForm, "ipm_gq",
+      [](State& s, int i, std::string_view) {
+        s.loads.point[i].Case = static_cast<Integer>(NextCase(s.loads.point[i].Case));
+        return Changed(s);
+      },
+      1, 8);
+  AddControl(
+      t, kForm, "ipm_yz",
+      [](State& s, int i, std::string_view) {
+        PointLoad& pl = s.loads.point[i];
+        pl.Dir = pl.Dir == 0 ? 1 : 0;
+        return Changed(s);
+      },
+      1, 8);
+  AddControl(
+      t, kForm, "ch_pm",
+      [](State& s, int i, std::string_view text) {
+        s.loads.point[i].Checked = ToBoolean(Ticked(text));
+        return Changed(s);
+      },
+      1, 8);
 
   // How positions are typed.
   auto option = [&t](const char* name, bool point, Integer flag) {

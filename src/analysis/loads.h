@@ -39,10 +39,10 @@ struct PointLoad {
 };
 
 struct Loads {
-  std::array<AxialLoad, 4> axial{};        // slots 1..3
-  std::array<UniformLoad, 5> uniform{};    // slot 0 selfweight, 1..4
+  std::array<AxialLoad, 4> axial{};          // slots 1..3
+  std::array<UniformLoad, 5> uniform{};      // slot 0 selfweight, 1..4
   std::array<TrapezoidLoad, 4> trapezoid{};  // slots 1..3
-  std::array<PointLoad, 9> point{};        // slots 1..8
+  std::array<PointLoad, 9> point{};          // slots 1..8
   Integer PointLoadXRelative = 0;
   Integer TrapezoidXRelative = 0;
 };

@@ -58,12 +58,8 @@ Factors FactorsOf(const State& s, CombForm form) {
       f.S[1] = p.LfSLS_Q1;
       f.S[2] = p.LfSLS_Q2;
       break;
-    case CombForm::BasicLoads:
-      f.basic = true;
-      break;
-    case CombForm::None:
-      f.S[0] = f.S[1] = f.S[2] = 0;
-      break;
+    case CombForm::BasicLoads: f.basic = true; break;
+    case CombForm::None: f.S[0] = f.S[1] = f.S[2] = 0; break;
   }
   return f;
 }

@@ -28,7 +28,11 @@ void SolveAllSlots(State& s);
 
 // The five forms of the combination; mode 3 uses 6.10a and 6.10b in turn.
 enum class CombForm {
-  Eq610 = 0, Eq610a = 1, Eq610b = 2, UserFactors = 4, BasicLoads = 5,
+  Eq610 = 0,
+  Eq610a = 1,
+  Eq610b = 2,
+  UserFactors = 4,
+  BasicLoads = 5,
   None = -1  // no combination: nothing acts
 };
 void CombineLoads(State& s, CombForm form);
@@ -60,8 +64,7 @@ Single PsiOf(const FivePoints& f);
 void Inflections(const std::array<Single, 51>& M, Single& first, Single& second);
 // Curved, MidDominates, Linear, Psi and AlphaS or AlphaH of a moment diagram; zAxis takes the
 // rules of the z diagram (inner moment the peak, open band of Linear).
-void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis,
-                   MomentShape& sh);
+void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis, MomentShape& sh);
 
 // ---- End force mode (end_forces.cpp) ----
 

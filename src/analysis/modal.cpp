@@ -29,14 +29,12 @@ void ModalAnalysis(State& s) {
 
   // The user's uniform loads whatever their case and direction (102 kg per kN), plus the section
   // weight, also without the selfweight switch.
-  const double q = static_cast<double>(l.uniform[1].q) + l.uniform[2].q + l.uniform[3].q +
-                   l.uniform[4].q;
+  const double q = static_cast<double>(l.uniform[1].q) + l.uniform[2].q + l.uniform[3].q + l.uniform[4].q;
   an.ModalMass = ToSingle(102 * q + s.section.g);
   v.text["Modal_ns.massa"] = "Mass: m = " + FormatNumber(an.ModalMass, "#0", dc) + " kg/m";
 
   const double L = p.L;
-  const double root =
-      Sqrt(Div(static_cast<double>(s.section.Iy) * p.E * 1E-6, L * L * L * L * an.ModalMass));
+  const double root = Sqrt(Div(static_cast<double>(s.section.Iy) * p.E * 1E-6, L * L * L * L * an.ModalMass));
   for (int n = 1; n <= 3; ++n) {
     const std::string key = "Modal_ns.mod" + std::to_string(n);
     const double c = ModalCoefficient(p.SupportType, n);

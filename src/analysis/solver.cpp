@@ -65,9 +65,7 @@ Station ForceBasic(int t, double L, double P, double a, double x) {
   const double b = L - a;
   double R = 0, M0 = 0, ML = 0;
   switch (t) {
-    case 0:
-      R = Div(P * b, L);
-      break;
+    case 0: R = Div(P * b, L); break;
     case 1:
       ML = -(P * a / 2) * (1 - Div(a * a, L * L));
       R = Div(P * b + ML, L);
@@ -107,9 +105,7 @@ Station MomentBasic(int t, double L, double Mp, double a, double x, bool checkGr
   const double b = L - a;
   double M0 = 0, ML = 0;
   switch (t) {
-    case 1:
-      ML = -(Mp / 2) * (1 - 3 * Div(a * a, L * L));
-      break;
+    case 1: ML = -(Mp / 2) * (1 - 3 * Div(a * a, L * L)); break;
     case 2:
       M0 = Div(Mp * b * (2 * a - b), L * L);
       ML = -Div(Mp * a * (2 * b - a), L * L);
@@ -132,9 +128,18 @@ Station MomentBasic(int t, double L, double Mp, double a, double x, bool checkGr
 bool BasicTypes(int type, int& t0, int& t1) {
   t1 = -1;
   switch (type) {
-    case 0: case 1: case 2: case 4: t0 = type; return true;
-    case 3: t0 = 0; t1 = 2; return true;
-    case 5: t0 = 0; t1 = 1; return true;
+    case 0:
+    case 1:
+    case 2:
+    case 4: t0 = type; return true;
+    case 3:
+      t0 = 0;
+      t1 = 2;
+      return true;
+    case 5:
+      t0 = 0;
+      t1 = 1;
+      return true;
   }
   return false;
 }
@@ -269,8 +274,8 @@ void SolvePointForce(State& s, int slot) {
   const double P = s.analysis.unit.forceValue[slot];
   const double a = s.loads.point[slot].x;
   FillColumn(
-      s, s.analysis.unit.force.solved[slot],
-      [&](int t, double x, bool) { return ForceBasic(t, L, P, a, x); }, false, a);
+      s, s.analysis.unit.force.solved[slot], [&](int t, double x, bool) { return ForceBasic(t, L, P, a, x); },
+      false, a);
 }
 
 void SolvePointMoment(State& s, int slot) {

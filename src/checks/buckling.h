@@ -53,8 +53,8 @@ struct CFactors {
 // C1, C2, C3 of a loaded member without restraints, by support type and moment shape (q-load when
 // `curved`). `k` is the LT length factor, `springPct` the spring restraint in percent; M0, Mmid
 // and ML the moments at x = 0, L/2 and L, read by the cantilever only.
-CFactors LoadCaseCFactors(int supportType, bool curved, double k, int springPct, double M0,
-                          double Mmid, double ML);
+CFactors LoadCaseCFactors(int supportType, bool curved, double k, int springPct, double M0, double Mmid,
+                          double ML);
 // C1 and C3 of a part of the member by its end moment ratio psi and, for the C3 of a negative psi,
 // the flange ratio psif of the single symmetric section. k is the LT length factor.
 CFactors MomentRatioTable(double psi, double psif, double k);

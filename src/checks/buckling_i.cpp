@@ -45,8 +45,7 @@ double MomentResistance(const State& s, const BucklingStyle& style) {
 }
 
 // The terms of My and Mz added to the flexural lines (6.61 about y, 6.62 about z).
-void MomentTerms(State& s, const BucklingStyle& style, bool yLine, bool zLine, double& IRy,
-                 double& IRz) {
+void MomentTerms(State& s, const BucklingStyle& style, bool yLine, bool zLine, double& IRy, double& IRz) {
   const std::string j = style.join;
   const Analysis& an = s.analysis;
   const Section& c = s.section;
@@ -145,7 +144,6 @@ void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt) {
                            (style.singleSym ? ");  (Ch 6.3.2))" : ";  (Ch 6.3.2))"));
   k.colLT = Colour(s, IRlt);
 }
-
 
 void BucklingControlI(State& s) { RunBucklingControl(s, kBucklingStyleI); }
 

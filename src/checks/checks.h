@@ -55,13 +55,13 @@ struct Checks {
   // Section control of the I family: the work values of the check point at hand, left as the last
   // point had them. Forces are magnitudes in kN and kNm; NEd keeps its sign in Analysis.
   Single MyEd = 0, MzEd = 0, VyEd = 0, VzEd = 0;
-  Single MyRd = 0, MzRd = 0;    // moment resistances, reduced for shear where it is high
-  Single MNyRd = 0, MNzRd = 0;  // the same, reduced for the axial force
-  Single rhoY = 0, rhoZ = 0;    // shear reduction factors of 6.2.8
-  double classCur = 0;          // class used by the next moment resistance
+  Single MyRd = 0, MzRd = 0;          // moment resistances, reduced for shear where it is high
+  Single MNyRd = 0, MNzRd = 0;        // the same, reduced for the axial force
+  Single rhoY = 0, rhoZ = 0;          // shear reduction factors of 6.2.8
+  double classCur = 0;                // class used by the next moment resistance
   double classNMy = 0, classNMz = 0;  // classes under the actual N and M pair
-  double NRd = 0;               // NcRd under compression, NtRd otherwise
-  double alfa = 0, betaN = 0;   // exponents of the biaxial forms: 2 and 5n, not below 1
+  double NRd = 0;                     // NcRd under compression, NtRd otherwise
+  double alfa = 0, betaN = 0;         // exponents of the biaxial forms: 2 and 5n, not below 1
   // End of the shear line's Limit text: ")" or " Support stiffener recommended)".
   std::string VbSuffix;
 
@@ -74,7 +74,7 @@ struct Checks {
   Number McrWork = 0;             // Nmm, critical moment of the part at hand
   Number MyLT = 0, MyRdLT = 0;    // kNm, moment and resistance of the governing LT part
   Number Cmz0 = 0;
-  std::array<std::string, 7> ltbPartLabel{};  // text of each part of the member
+  std::array<std::string, 7> ltbPartLabel{};   // text of each part of the member
   Boolean hasLoadY = False, hasLoadZ = False;  // anything acts in the plane of y / of z
   // Values of the single symmetric I (22) and the plate families (51 to 56) that the LT control
   // reads; their section stages fill them. mm, and kNm for the resistances of the flange in
@@ -87,8 +87,8 @@ struct Checks {
   Number Ncru = 0, lamdau = 0, chiu = 0, NbuRd = 0;
   Number Ncrv = 0, lamdav = 0, chiv = 0, NbvRd = 0;
   Number kvv = 0, kvu = 0, Cmu = 0, Cmv = 0;
-  Single MuMax = 0, MvMax = 0;  // kNm, governing moments about u and v
-  Single MuCm = 0, MvCm = 0;    // kNm, the largest moments about u and v for Cm
+  Single MuMax = 0, MvMax = 0;    // kNm, governing moments about u and v
+  Single MuCm = 0, MvCm = 0;      // kNm, the largest moments about u and v for Cm
   Single deltaU = 0, deltaV = 0;  // mm, deflections across u and v for Cm
 };
 

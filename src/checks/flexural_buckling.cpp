@@ -57,19 +57,23 @@ bool AutoCurves(const State& s, int& y, int& z) {
     return true;
   }
   switch (type) {
-    case 5: case 16: case 26: case 28:
-      y = z = kC;
-      return true;
-    case 6: case 7:  // hot finished hollow sections
+    case 5:
+    case 16:
+    case 26:
+    case 28: y = z = kC; return true;
+    case 6:
+    case 7:  // hot finished hollow sections
       y = z = high ? kA0 : kA;
       return true;
-    case 8: case 9:  // cold formed hollow sections
+    case 8:
+    case 9:  // cold formed hollow sections
       y = z = kC;
       return true;
-    case 10: case 11:
-      y = z = kB;
-      return true;
-    case 21: case 22: case 41:
+    case 10:
+    case 11: y = z = kB; return true;
+    case 21:
+    case 22:
+    case 41:
       y = c.tmax <= 40 ? kB : kC;
       z = c.tmax <= 40 ? kC : kD;
       return true;
@@ -78,9 +82,7 @@ bool AutoCurves(const State& s, int& y, int& z) {
       y = z = slender ? kB : kC;
       return true;
     }
-    case 31:
-      y = z = p.p31.hotCold == 0 ? kC : (high ? kA0 : kA);
-      return true;
+    case 31: y = z = p.p31.hotCold == 0 ? kC : (high ? kA0 : kA); return true;
   }
   return false;
 }
@@ -156,8 +158,7 @@ void BucklingFactors(State& s) {
   // on the gross area and curve of z. A leg connection takes 0.35 + 0.7 lamda on both.
   if (type == 10 || type == 11) {
     const double NRk = static_cast<double>(p.fyk) * c.A;
-    auto principal = [&](double factor, Single I, double& Ncr, double& lamda, double& chi,
-                         double& Nb) {
+    auto principal = [&](double factor, Single I, double& Ncr, double& lamda, double& chi, double& Nb) {
       const double length = factor * 1000 * static_cast<double>(p.L);
       Ncr = Div(PiSingle * PiSingle * p.E, length * length) * I / 1000;
       lamda = Sqrt(Div(NRk, Ncr * 1000));
@@ -174,8 +175,7 @@ void BucklingFactors(State& s) {
   // buckles over its length about z.
   const double A = c.A;
   const double is2 = Div(c.Iz, A) + Div(c.Iy, A);
-  const double LTlength =
-      p.ltbOn == 1 ? k.LTlength : static_cast<double>(p.bucklingFactorZ) * p.L;
+  const double LTlength = p.ltbOn == 1 ? k.LTlength : static_cast<double>(p.bucklingFactorZ) * p.L;
   const double LT = LTlength * 1000;
   const double E = p.E, G = E / 2.6;
   double i02 = is2;
@@ -206,8 +206,7 @@ void BucklingFactors(State& s) {
     k.NcrTF = 1.0E+25;
   } else {
     const double sum = Ncr + k.NcrT;
-    k.NcrTF = Div(i02, 2 * is2) *
-              (sum - Sqrt(sum * sum - Div(4 * Ncr * k.NcrT * is2, i02)));
+    k.NcrTF = Div(i02, 2 * is2) * (sum - Sqrt(sum * sum - Div(4 * Ncr * k.NcrT * is2, i02)));
   }
 }
 

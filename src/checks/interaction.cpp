@@ -29,8 +29,8 @@ bool MethodTwoISection(int type) {
 bool MethodTwoHollow(int type) { return (type >= 6 && type <= 9) || type == 23 || type == 31; }
 
 // Cm0 of Table A.2 for one axis.
-double Cm0OfDiagram(const State& s, const FivePoints& pt, const MomentShape& sh, double Ncr,
-                    Single I, double deflection, double Mmax) {
+double Cm0OfDiagram(const State& s, const FivePoints& pt, const MomentShape& sh, double Ncr, Single I,
+                    double deflection, double Mmax) {
   const Project& p = s.project;
   const double n = Div(s.analysis.NEd, Ncr);
   if (pt.M1 == 0 && pt.M5 == 0) return sh.Curved != 0 ? 1 + 0.03 * n : 1 - 0.18 * n;
@@ -166,25 +166,24 @@ void FactorsMethod1(State& s) {
     k.bLt = k.cLt = k.dLt = k.eLt = 0;
     k.Cyy = k.Cyz = k.Czy = k.Czz = 0;
   } else {
-  const double ratioY = Div(c.Wely, c.Wply), ratioZ = Div(c.Welz, c.Wplz);
+    const double ratioY = Div(c.Wely, c.Wply), ratioZ = Div(c.Welz, c.Wplz);
 
-  k.bLt = 0.5 * aLt * lamda0 * lamda0 * Div(Div(m, k.xLT), c.MplyRd) * Div(mz, c.MplzRd);
-  const double py = Div(1.6, wy) * Cmy2, pz = Div(1.6, wz) * Cmz2;
-  k.Cyy = 1 + (wy - 1) * ((2 - py * lm - py * lm * lm) * npl - k.bLt);
-  k.Cyy = std::max(k.Cyy, ratioY);
+    k.bLt = 0.5 * aLt * lamda0 * lamda0 * Div(Div(m, k.xLT), c.MplyRd) * Div(mz, c.MplzRd);
+    const double py = Div(1.6, wy) * Cmy2, pz = Div(1.6, wz) * Cmz2;
+    k.Cyy = 1 + (wy - 1) * ((2 - py * lm - py * lm * lm) * npl - k.bLt);
+    k.Cyy = std::max(k.Cyy, ratioY);
 
-  k.cLt = Div(10 * aLt * lamda0 * lamda0, 5 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd);
-  k.Cyz = 1 + (wz - 1) * ((2 - Div(14 * Cmz2 * lm * lm, Pow(wz, 5))) * npl - k.cLt);
-  k.Cyz = std::max(k.Cyz, 0.6 * Sqrt(Div(wz, wy)) * ratioZ);
+    k.cLt = Div(10 * aLt * lamda0 * lamda0, 5 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd);
+    k.Cyz = 1 + (wz - 1) * ((2 - Div(14 * Cmz2 * lm * lm, Pow(wz, 5))) * npl - k.cLt);
+    k.Cyz = std::max(k.Cyz, 0.6 * Sqrt(Div(wz, wy)) * ratioZ);
 
-  k.dLt = Div(2 * aLt * lamda0, 0.1 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd) *
-          Div(mz, k.Cmz * c.MplzRd);
-  k.Czy = 1 + (wy - 1) * ((2 - Div(14 * Cmy2 * lm * lm, Pow(wy, 5))) * npl - k.dLt);
-  k.Czy = std::max(k.Czy, 0.6 * Sqrt(Div(wy, wz)) * ratioY);
+    k.dLt = Div(2 * aLt * lamda0, 0.1 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd) * Div(mz, k.Cmz * c.MplzRd);
+    k.Czy = 1 + (wy - 1) * ((2 - Div(14 * Cmy2 * lm * lm, Pow(wy, 5))) * npl - k.dLt);
+    k.Czy = std::max(k.Czy, 0.6 * Sqrt(Div(wy, wz)) * ratioY);
 
-  k.eLt = Div(1.7 * aLt * lamda0, 0.1 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd);
-  k.Czz = 1 + (wz - 1) * (2 - pz * lm - pz * lm * lm - k.eLt) * npl;
-  k.Czz = std::max(k.Czz, ratioZ);
+    k.eLt = Div(1.7 * aLt * lamda0, 0.1 + lz4) * Div(m, k.Cmy * k.xLT * c.MplyRd);
+    k.Czz = 1 + (wz - 1) * (2 - pz * lm - pz * lm * lm - k.eLt) * npl;
+    k.Czz = std::max(k.Czz, ratioZ);
   }
 
   const double ay = 1 - Div(NEd, k.Ncry), az = 1 - Div(NEd, k.Ncrz);

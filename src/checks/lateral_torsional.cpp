@@ -91,8 +91,8 @@ void RunChi(State& s, double M) {
 
 // ---- The tables ----
 
-CFactors LoadCaseCFactors(int supportType, bool curved, double k, int springPct, double M0,
-                          double Mmid, double ML) {
+CFactors LoadCaseCFactors(int supportType, bool curved, double k, int springPct, double M0, double Mmid,
+                          double ML) {
   // A cantilever takes half its length factor for the table, and its row by the moments.
   if (supportType == 4) k = k / 2;
   const double kk = (1 - k) / 0.5;
@@ -110,8 +110,7 @@ CFactors LoadCaseCFactors(int supportType, bool curved, double k, int springPct,
     case 3: return curved ? Mix(s, Bq, 1 - s, Aq) : Mix(s, BP, 1 - s, APs);
     case 4: return std::fabs(Mmid) > 1.2 * std::fabs(M0 + ML) / 2 ? Aq : AP;
     case 5:
-      return curved ? Mix(s, Mix(0.5, Aq, 0.5, Bq), 1 - s, Aq)
-                    : Mix(s, Mix(0.5, AP, 0.5, BP), 1 - s, APs);
+      return curved ? Mix(s, Mix(0.5, Aq, 0.5, Bq), 1 - s, Aq) : Mix(s, Mix(0.5, AP, 0.5, BP), 1 - s, APs);
   }
   return {};
 }
@@ -214,8 +213,8 @@ void CFactorsFromLoad(State& s) {
   const Project& p = s.project;
   const Analysis& an = s.analysis;
   Checks& k = s.checks;
-  const CFactors f = LoadCaseCFactors(p.SupportType, an.ShapeY.Curved != 0, p.ltbFactor,
-                                      p.SpringPct, an.MyGrid[0], an.MyGrid[25], an.MyGrid[50]);
+  const CFactors f = LoadCaseCFactors(p.SupportType, an.ShapeY.Curved != 0, p.ltbFactor, p.SpringPct,
+                                      an.MyGrid[0], an.MyGrid[25], an.MyGrid[50]);
   k.C1 = f.C1;
   k.C2 = f.C2;
   k.C3 = f.C3;
@@ -433,8 +432,7 @@ void CriticalMoment0(State& s) {
     return;  // Mcr0 and lamda0 stay as they were
   }
   const double X = TorsionTerm(s, LT);
-  k.Mcr0 = C10 * Div(PiSingle * PiSingle * static_cast<double>(p.E) * c.Iz, LT * LT) *
-           (Sqrt(X + w * w) - w);
+  k.Mcr0 = C10 * Div(PiSingle * PiSingle * static_cast<double>(p.E) * c.Iz, LT * LT) * (Sqrt(X + w * w) - w);
   k.lamda0 = Sqrt(Div(static_cast<double>(p.gammaM1) * c.MyRdBuck * 1000000, k.Mcr0));
 }
 

@@ -88,8 +88,7 @@ void RefreshLtbDialog(State& s) {
   for (const char* f : {"ic1", "ic2", "ic3"}) v.enabled[Key(f)] = user;
   v.text[Key("ic1")] = FormatNumber(user ? p.ltbC1 : k.C1, "#0.000", dc);
   v.text[Key("ic2")] = parts3 ? "N/A" : FormatNumber(user ? p.ltbC2 : k.C2, "#0.000", dc);
-  v.text[Key("ic3")] =
-      p.ProfileType != 22 ? "N/A" : FormatNumber(user ? p.ltbC3 : k.C3, "#0.000", dc);
+  v.text[Key("ic3")] = p.ProfileType != 22 ? "N/A" : FormatNumber(user ? p.ltbC3 : k.C3, "#0.000", dc);
   v.text[Key("C1")] = "C1 = " + FormatNumber(k.C1, "0.000", dc);
   v.text[Key("C2")] = "C2 = " + FormatNumber(k.C2, "0.000", dc);
   v.text[Key("C3")] = "C3 = " + FormatNumber(k.C3, "0.000", dc);
@@ -173,16 +172,20 @@ void RegisterBucklingControls(ControlTable& t) {
     Recalculate(s);
     RefreshLtbDialog(s);
   };
-  AddNumericField(t, kForm, "ic1",
-                  {"#0.000", false, [](State& s, double v) { s.project.ltbC1 = v; },
-                   [](const State& s) { return s.project.ltbC1; },
-                   [](const State&, double v) { return v >= 0.2 && v <= 4; },
-                   " 0.2 <= C1i <= 4 ", "vipping.ic2", after});
+  AddNumericField(
+      t, kForm, "ic1",
+      {"#0.000", false, [](State& s, double v) { s.project.ltbC1 = v; },
+       [](const State& s) { return s.project.ltbC1; },
+       [](const State&, double v) { return v >= 0.2 && v <= 4; }, " 0.2 <= C1i <= 4 ", "vipping.ic2", after});
   // ic2 moves on to ic3 only where C3 means something.
-  const NumericField ic2{"#0.000", false, [](State& s, double v) { s.project.ltbC2 = v; },
+  const NumericField ic2{"#0.000",
+                         false,
+                         [](State& s, double v) { s.project.ltbC2 = v; },
                          [](const State& s) { return s.project.ltbC2; },
                          [](const State&, double v) { return v >= 0 && v <= 4; },
-                         " 0 <= C2i <= 4 ", "vipping.ic1", after};
+                         " 0 <= C2i <= 4 ",
+                         "vipping.ic1",
+                         after};
   AddControl(t, kForm, "ic2", [ic2](State& s, int, std::string_view text) {
     NumericField f = ic2;
     if (s.project.ProfileType == 22) f.enter = "vipping.ic3";
@@ -190,14 +193,19 @@ void RegisterBucklingControls(ControlTable& t) {
     s.view.text[Key("ic2")] = r.text;
     return r;
   });
-  AddNumericField(t, kForm, "ic3",
-                  {"#0.000", false, [](State& s, double v) { s.project.ltbC3 = v; },
-                   [](const State& s) { return s.project.ltbC3; },
-                   [](const State&, double v) { return v >= 0 && v <= 4; },
-                   " 0 <= C3i <= 4 ", "vipping.ic1", after});
+  AddNumericField(
+      t, kForm, "ic3",
+      {"#0.000", false, [](State& s, double v) { s.project.ltbC3 = v; },
+       [](const State& s) { return s.project.ltbC3; },
+       [](const State&, double v) { return v >= 0 && v <= 4; }, " 0 <= C3i <= 4 ", "vipping.ic1", after});
   // Za in whole millimetres, with no test and no word on a bad text.
-  NumericField iza{"#00", true, [](State& s, double v) { s.project.ltbZa = v; },
-                   [](const State& s) { return s.project.ltbZa; }, nullptr, "", "vipping.loadl4",
+  NumericField iza{"#00",
+                   true,
+                   [](State& s, double v) { s.project.ltbZa = v; },
+                   [](const State& s) { return s.project.ltbZa; },
+                   nullptr,
+                   "",
+                   "vipping.loadl4",
                    after};
   iza.mismatchMessage = false;
   AddNumericField(t, kForm, "iza", iza);

@@ -18,22 +18,15 @@ const std::vector<ControlFamilyRow>& ControlFamilies() {
       {22, 22, BeforeControl::Nothing, SectionControlSingleSym, BucklingControlSingleSym,
        BucklingWhen::Always},
       // Hollow sections and the box with equal flanges.
-      {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
-       BucklingWhen::Always},
-      {23, 23, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow,
-       BucklingWhen::Always},
+      {6, 9, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow, BucklingWhen::Always},
+      {23, 23, BeforeControl::Nothing, SectionControlHollow, BucklingControlHollow, BucklingWhen::Always},
       // Angles: buckling only in compression.
-      {10, 11, BeforeControl::Nothing, SectionControlAngle, BucklingControlAngle,
-       BucklingWhen::Compression},
+      {10, 11, BeforeControl::Nothing, SectionControlAngle, BucklingControlAngle, BucklingWhen::Compression},
       // T section: an axial member; its load tables are emptied before the control.
-      {26, 26, BeforeControl::ClearLoads, SectionControlT, BucklingControlT,
-       BucklingWhen::Compression},
-      {28, 28, BeforeControl::Nothing, SectionControlFlat, BucklingControlFlat,
-       BucklingWhen::Compression},
-      {31, 31, BeforeControl::Nothing, SectionControlTube, BucklingControlHollow,
-       BucklingWhen::Compression},
-      {41, 41, BeforeControl::Nothing, SectionControlGeneral, BucklingControlI,
-       BucklingWhen::Always},
+      {26, 26, BeforeControl::ClearLoads, SectionControlT, BucklingControlT, BucklingWhen::Compression},
+      {28, 28, BeforeControl::Nothing, SectionControlFlat, BucklingControlFlat, BucklingWhen::Compression},
+      {31, 31, BeforeControl::Nothing, SectionControlTube, BucklingControlHollow, BucklingWhen::Compression},
+      {41, 41, BeforeControl::Nothing, SectionControlGeneral, BucklingControlI, BucklingWhen::Always},
       // HSQ and the box with unequal flanges: in-plane girders without a buckling control; the box
       // keeps its axial force in the shared value, and its control ignores it.
       {24, 25, BeforeControl::AxialZero, SectionControlHSQ, nullptr, BucklingWhen::Never},

@@ -36,8 +36,8 @@ int WorstCorner(const double q[4]) {
 }
 
 std::string CornerLimit(const State& s, double xRel, int point) {
-  return " < " + F1(s, s.analysis.IRlimit) + " (" + F2(s, xRel) + "L, point: " +
-         std::to_string(point) + ", Ch 6.2.1)";
+  return " < " + F1(s, s.analysis.IRlimit) + " (" + F2(s, xRel) + "L, point: " + std::to_string(point) +
+         ", Ch 6.2.1)";
 }
 
 }  // namespace
@@ -105,8 +105,7 @@ void SectionControlAngle(State& s) {
       const double MzRdPt = pt == 3 ? static_cast<double>(c.MzrRd) : c.MzlRd;
       if (Compete(q[pt], IR1, col1, lim))
         Write(s, k.secText[1], "IR = NEd/NRd+My,Ed/My,Rd+Mz,Ed/Mz,Rd = ",
-              F(NEd) + "/" + F(k.NRd) + "+" + F(My) + "/" + F(MyRdPt) + "+" + F(Mz) + "/" +
-                  F(MzRdPt) + " = ",
+              F(NEd) + "/" + F(k.NRd) + "+" + F(My) + "/" + F(MyRdPt) + "+" + F(Mz) + "/" + F(MzRdPt) + " = ",
               q[pt], CornerLimit(s, x, pt));
     }
 
@@ -118,17 +117,17 @@ void SectionControlAngle(State& s) {
     {
       const auto& MuRd = c.MuRd;
       const auto& MvRd = c.MvRd;
-      const double q2 = equal ? std::fabs(n - Div(Mv, MvRd[2]))
-                              : std::fabs(n + Div(Mu, MuRd[2]) - Div(Mv, MvRd[2]));
+      const double q2 =
+          equal ? std::fabs(n - Div(Mv, MvRd[2])) : std::fabs(n + Div(Mu, MuRd[2]) - Div(Mv, MvRd[2]));
       const double q[4] = {0, std::fabs(n - Div(Mu, MuRd[1]) + Div(Mv, MvRd[1])), q2,
                            std::fabs(n + Div(Mu, MuRd[3]) + Div(Mv, MvRd[3]))};
       const int pt = WorstCorner(q);
       const size_t p = static_cast<size_t>(pt);
       if (Compete(q[pt], IR2, col2, lim))
-        Write(s, k.secText[2], "IR = NEd/NRd+Mu,Ed/Mu,Rd+Mv,Ed/Mv,Rd = ",
-              F(NEd) + "/" + F(k.NRd) + "+" + F(Mu) + "/" + F(MuRd[p]) + "+" + F(Mv) + "/" +
-                  F(MvRd[p]) + " = ",
-              q[pt], CornerLimit(s, x, pt));
+        Write(
+            s, k.secText[2], "IR = NEd/NRd+Mu,Ed/Mu,Rd+Mv,Ed/Mv,Rd = ",
+            F(NEd) + "/" + F(k.NRd) + "+" + F(Mu) + "/" + F(MuRd[p]) + "+" + F(Mv) + "/" + F(MvRd[p]) + " = ",
+            q[pt], CornerLimit(s, x, pt));
     }
 
     // d. Shear of the legs, against the resistances of the section.

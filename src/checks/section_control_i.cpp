@@ -163,7 +163,7 @@ namespace {
 
 void ShearI(State& s, double NEd, double MyEd) { ComputeShearResistances(s, NEd, MyEd); }
 
-const SectionControlRules kRulesI{ExponentsI, false,      ClassAboutY,  ClassAboutZ, ComputeMyRd,
+const SectionControlRules kRulesI{ExponentsI,  false,        ClassAboutY,  ClassAboutZ, ComputeMyRd,
                                   ComputeMzRd, ComputeMNyRd, ComputeMNzRd, ShearI};
 
 }  // namespace
@@ -215,13 +215,11 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
   if (NEd < 0) {
     const double ir = std::fabs(Div(NEd, c.NtRd));
     if (Compete(ir, IR1, col1, lim))
-      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NtRd) + " = ", ir,
-            axialLimit("Ch 6.2.3"));
+      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NtRd) + " = ", ir, axialLimit("Ch 6.2.3"));
   } else if (NEd > 0) {
     const double ir = std::fabs(Div(NEd, c.NcRd));
     if (Compete(ir, IR1, col1, lim))
-      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NcRd) + " = ", ir,
-            axialLimit("Ch 6.2.4"));
+      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NcRd) + " = ", ir, axialLimit("Ch 6.2.4"));
   }
 
   // 3. Every check point, in ascending order of its index.
@@ -247,8 +245,8 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
       rules.myRd(s);
       const double ir = Div(MyEd, k.MyRd);
       if (Compete(ir, IR1, col1, lim))
-        Write(s, t1, lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ",
-              F(MyEd) + "/" + F(k.MyRd) + " = ", ir,
+        Write(s, t1,
+              lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ", F(MyEd) + "/" + F(k.MyRd) + " = ", ir,
               PointLimit(s, x, lowVz ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
     }
 
@@ -258,8 +256,8 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
       rules.mzRd(s);
       const double ir = Div(MzEd, k.MzRd);
       if (Compete(ir, IR1, col1, lim))
-        Write(s, t1, lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ",
-              F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
+        Write(s, t1,
+              lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ", F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
               PointLimit(s, x, lowVy ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
     }
 
@@ -275,8 +273,8 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
           Write(s, t2,
                 std::string(lowVz ? "IR = [My,Ed/My,Rd]^alfa" : "IR = [My,Ed/MV,y,Rd]^alfa") +
                     (lowVy ? " + [Mz,Ed/Mz,Rd]^beta = " : " + [Mz,Ed/MV,z,Rd]^beta = "),
-                "[" + F(MyEd) + "/" + F(k.MyRd) + "]^" + E(k.alfa) + "+" + "(" + F(MzEd) + "/" +
-                    F(k.MzRd) + ")^" + E(k.betaN) + " = ",
+                "[" + F(MyEd) + "/" + F(k.MyRd) + "]^" + E(k.alfa) + "+" + "(" + F(MzEd) + "/" + F(k.MzRd) +
+                    ")^" + E(k.betaN) + " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.5/6.2.9)"));
       } else {
         const double ir = Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
@@ -343,14 +341,13 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
       if (!conser && k.classNMy <= 2 && k.classNMz <= 2) {
         rules.mnyRd(s);
         rules.mnzRd(s);
-        const double ir =
-            Pow(Div(MyEd, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
+        const double ir = Pow(Div(MyEd, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2,
                 std::string(highVz ? "IR = (My,Ed/MVN,y,Rd)^alfa " : "IR = (My,Ed/MN,y,Rd)^alfa ") +
                     (highVy ? " + (Mz,Ed/MVN,z,Rd)^beta = " : " + (Mz,Ed/MN,z,Rd)^beta = "),
-                "(" + F(MyEd) + "/" + F(k.MNyRd) + ")^" + E(k.alfa) + "+" + "(" + F(MzEd) +
-                    "/" + F(k.MNzRd) + ")^" + E(k.betaN) + " = ",
+                "(" + F(MyEd) + "/" + F(k.MNyRd) + ")^" + E(k.alfa) + "+" + "(" + F(MzEd) + "/" + F(k.MNzRd) +
+                    ")^" + E(k.betaN) + " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         k.classCur = c.classMy;
@@ -362,8 +359,8 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
           Write(s, t2,
                 std::string(highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd" : "IR = NEd/NRd+My,Ed/My,Rd") +
                     (highVy ? "+Mz,Ed/MV,z,Rd = " : "+Mz,Ed/Mz,Rd = "),
-                F(NEd) + "/" + F(k.NRd) + "+" + F(MyEd) + "/" + F(k.MyRd) + "+" + F(MzEd) + "/" +
-                    F(k.MzRd) + " = ",
+                F(NEd) + "/" + F(k.NRd) + "+" + F(MyEd) + "/" + F(k.MyRd) + "+" + F(MzEd) + "/" + F(k.MzRd) +
+                    " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
       }
     }

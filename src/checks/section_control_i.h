@@ -38,8 +38,8 @@ struct SectionControlRules {
   void (*mnzRd)(State&);
   void (*shear)(State&, double NEd, double MyEd);
   const char* exponentFormat = "0.00";  // the exponents in the Numbers of the biaxial forms
-  bool shearReduces = true;  // false: MRd is never reduced for shear, and no MV or MVN text
-  bool aboutZ = true;        // false: bending about y only, no Mz and no Vy lines
+  bool shearReduces = true;             // false: MRd is never reduced for shear, and no MV or MVN text
+  bool aboutZ = true;                   // false: bending about y only, no Mz and no Vy lines
 };
 
 // alfa = 2 and beta = 5n, not below 1, with n against NtRd.

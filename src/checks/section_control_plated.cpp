@@ -79,8 +79,8 @@ void InPlaneSectionControl(State& s, void (*shear)(State&, double MyEd)) {
       const double MyAbs = std::fabs(MyEd);
       const double ir = Div(MyAbs, k.MyRd);
       if (Compete(ir, IR1, k.colSec[1], lim))
-        Write(s, k.secText[1], lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ",
-              F(MyAbs) + "/" + F(k.MyRd) + " = ", ir,
+        Write(s, k.secText[1],
+              lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ", F(MyAbs) + "/" + F(k.MyRd) + " = ", ir,
               PointLimit(s, x, lowVz ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
     }
 

@@ -128,13 +128,11 @@ void SectionControlSingleSym(State& s) {
   if (NEd < 0) {
     const double ir = std::fabs(Div(NEd, c.NtRd));
     if (Compete(ir, IR1, col1, lim))
-      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NtRd) + " = ", ir,
-            " < " + F(lim) + " (Ch 6.2.3)");
+      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NtRd) + " = ", ir, " < " + F(lim) + " (Ch 6.2.3)");
   } else if (NEd > 0) {
     const double ir = std::fabs(Div(NEd, c.NcRd));
     if (Compete(ir, IR1, col1, lim))
-      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NcRd) + " = ", ir,
-            " < " + F(lim) + " (Ch 6.2.4)");
+      Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NcRd) + " = ", ir, " < " + F(lim) + " (Ch 6.2.4)");
   }
 
   // 3. Every check point; My keeps its sign.
@@ -158,8 +156,8 @@ void SectionControlSingleSym(State& s) {
       k.MyRd = ToSingle(MyRdSigned(s, k.classCur, MyEd));
       const double ir = Div(MyAbs, k.MyRd);
       if (Compete(ir, IR1, col1, lim))
-        Write(s, t1, lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ",
-              F(MyAbs) + "/" + F(k.MyRd) + " = ", ir,
+        Write(s, t1,
+              lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ", F(MyAbs) + "/" + F(k.MyRd) + " = ", ir,
               PointLimit(s, x, lowVz ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
     }
 
@@ -169,8 +167,8 @@ void SectionControlSingleSym(State& s) {
       ComputeMzRd(s);
       const double ir = Div(MzEd, k.MzRd);
       if (Compete(ir, IR1, col1, lim))
-        Write(s, t1, lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ",
-              F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
+        Write(s, t1,
+              lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ", F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
               PointLimit(s, x, lowVy ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
     }
 
@@ -252,14 +250,13 @@ void SectionControlSingleSym(State& s) {
       if (!conser && k.classNMy <= 2 && k.classNMz <= 2) {
         MNyRdSingleSym(s);
         ComputeMNzRd(s);
-        const double ir =
-            Pow(Div(MyAbs, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
+        const double ir = Pow(Div(MyAbs, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2,
                 std::string(highVz ? "IR = (My,Ed/MVN,y,Rd)^alfa " : "IR = (My,Ed/MN,y,Rd)^alfa ") +
                     (highVy ? " + (Mz,Ed/MVN,z,Rd)^beta = " : " + (Mz,Ed/MN,z,Rd)^beta = "),
-                "(" + F(MyAbs) + "/" + F(k.MNyRd) + ")^" + F2(s, k.alfa) + "+" + "(" + F(MzEd) +
-                    "/" + F(k.MNzRd) + ")^" + F2(s, k.betaN) + " = ",
+                "(" + F(MyAbs) + "/" + F(k.MNyRd) + ")^" + F2(s, k.alfa) + "+" + "(" + F(MzEd) + "/" +
+                    F(k.MNzRd) + ")^" + F2(s, k.betaN) + " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         // The y resistance of the pair's class stays; z returns to the class of pure bending.
@@ -270,8 +267,8 @@ void SectionControlSingleSym(State& s) {
           Write(s, t2,
                 std::string(highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd" : "IR = NEd/NRd+My,Ed/My,Rd") +
                     (highVy ? "+Mz,Ed/MV,z,Rd = " : "+Mz,Ed/Mz,Rd = "),
-                F(NEd) + "/" + F(k.NRd) + "+" + F(MyAbs) + "/" + F(k.MyRd) + "+" + F(MzEd) + "/" +
-                    F(k.MzRd) + " = ",
+                F(NEd) + "/" + F(k.NRd) + "+" + F(MyAbs) + "/" + F(k.MyRd) + "+" + F(MzEd) + "/" + F(k.MzRd) +
+                    " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
       }
     }

@@ -19,13 +19,11 @@ const char* const kEndStiff = "endstiff";
 bool ShowsWebText(int type) { return type < 21 || (type >= 28 && type <= 50); }
 
 std::string PlasticLine(const State& s) {
-  return "Vpl,z,Rd = " + FormatNumber(s.section.VplRd, "#00.0", s.decimalComma) +
-         " kN (Plastic capacity)";
+  return "Vpl,z,Rd = " + FormatNumber(s.section.VplRd, "#00.0", s.decimalComma) + " kN (Plastic capacity)";
 }
 
 std::string ActualLine(const State& s) {
-  return "Vb,z,Rd = " + FormatNumber(s.section.VbzRd, "#00.0", s.decimalComma) +
-         " kN (Actual capacity)";
+  return "Vb,z,Rd = " + FormatNumber(s.section.VbzRd, "#00.0", s.decimalComma) + " kN (Actual capacity)";
 }
 
 std::string SpacingText(const State& s) {
@@ -107,11 +105,10 @@ void RegisterControlsChecks(ControlTable& t) {
     return RunAndRefresh(s);
   });
   for (int post = 0; post <= 1; ++post) {
-    AddControl(t, kEndStiff, "oendstiff" + std::to_string(post),
-               [post](State& s, int, std::string_view) {
-                 s.project.rigidEndPost = static_cast<Integer>(post);
-                 return RunAndRefresh(s);
-               });
+    AddControl(t, kEndStiff, "oendstiff" + std::to_string(post), [post](State& s, int, std::string_view) {
+      s.project.rigidEndPost = static_cast<Integer>(post);
+      return RunAndRefresh(s);
+    });
   }
 
   // The spacing: 100 <= a <= 1000 L, both bounds taken, whatever the message says.

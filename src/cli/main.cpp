@@ -10,9 +10,9 @@
 
 #include <climits>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <cstring>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -100,19 +100,32 @@ int main(int argc, char** argv) {
       }
       return argv[++i];
     };
-    if (a == "--do") events.push_back(next("CONTROL[=TEXT]"));
-    else if (a.rfind("--do=", 0) == 0) events.push_back(a.substr(5));
-    else if (a == "--json") out = Out::Json;
-    else if (a == "--summary") out = Out::Summary;
-    else if (a == "--detail") out = Out::Detail;
-    else if (a == "--controls") out = Out::Controls;
-    else if (a == "--save") savePath = next("PATH");
-    else if (a == "--xlsx") xlsxPath = next("PATH");
-    else if (a == "--csv") csvPath = next("PATH");
-    else if (a == "--data") dataDir = next("DIR");
-    else if (a == "--svg") svgDir = next("DIR");
-    else if (a == "--decimal-comma") decimal = 1;
-    else if (a == "--decimal-point") decimal = 0;
+    if (a == "--do")
+      events.push_back(next("CONTROL[=TEXT]"));
+    else if (a.rfind("--do=", 0) == 0)
+      events.push_back(a.substr(5));
+    else if (a == "--json")
+      out = Out::Json;
+    else if (a == "--summary")
+      out = Out::Summary;
+    else if (a == "--detail")
+      out = Out::Detail;
+    else if (a == "--controls")
+      out = Out::Controls;
+    else if (a == "--save")
+      savePath = next("PATH");
+    else if (a == "--xlsx")
+      xlsxPath = next("PATH");
+    else if (a == "--csv")
+      csvPath = next("PATH");
+    else if (a == "--data")
+      dataDir = next("DIR");
+    else if (a == "--svg")
+      svgDir = next("DIR");
+    else if (a == "--decimal-comma")
+      decimal = 1;
+    else if (a == "--decimal-point")
+      decimal = 0;
     else if (a == "--help" || a == "-h") {
       std::cout << kUsage;
       return 0;
@@ -173,8 +186,7 @@ int main(int argc, char** argv) {
     vn::BuildDetailTable(s);
     std::string error;
     const bool written =
-        (!xlsxPath ||
-         vn::WriteDetailXlsx(s.view.detailGrid, s.view.detailGridBold, *xlsxPath, &error)) &&
+        (!xlsxPath || vn::WriteDetailXlsx(s.view.detailGrid, s.view.detailGridBold, *xlsxPath, &error)) &&
         (!csvPath || vn::WriteDetailCsv(s.view.detailGrid, *csvPath, &error));
     if (!written) {
       std::cerr << "varnelt-cli: " << error << "\n";

@@ -54,8 +54,7 @@ std::vector<std::string> ControlTable::Names() const {
   std::vector<std::string> names;
   for (const ControlEntry& e : entries_) {
     std::string n = e.form.empty() ? e.name : e.form + "." + e.name;
-    if (e.firstIndex >= 0)
-      n += "(" + std::to_string(e.firstIndex) + ".." + std::to_string(e.lastIndex) + ")";
+    if (e.firstIndex >= 0) n += "(" + std::to_string(e.firstIndex) + ".." + std::to_string(e.lastIndex) + ")";
     names.push_back(n);
   }
   return names;
@@ -98,8 +97,7 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
   return r;
 }
 
-bool ParseFieldText(State& s, const std::string& self, std::string_view text, Single* value,
-                    EventResult* r) {
+bool ParseFieldText(State& s, const std::string& self, std::string_view text, Single* value, EventResult* r) {
   bool mismatch = false, overflow = false;
   *value = ParseNumber(text, s.decimalComma, &mismatch, &overflow);
   if (!mismatch && !overflow) return true;
@@ -115,8 +113,7 @@ bool ParseFieldText(State& s, const std::string& self, std::string_view text, Si
   return false;
 }
 
-EventResult RunNumericField(State& s, const std::string& self, const NumericField& f,
-                            std::string_view text) {
+EventResult RunNumericField(State& s, const std::string& self, const NumericField& f, std::string_view text) {
   EventResult r;
   Single v = 0;
   if (!ParseFieldText(s, self, text, &v, &r)) {
@@ -159,8 +156,7 @@ EventResult RunNumericField(State& s, const std::string& self, const NumericFiel
 
 namespace vn {
 
-void AddNumericField(ControlTable& t, const std::string& form, const std::string& name,
-                     NumericField f) {
+void AddNumericField(ControlTable& t, const std::string& form, const std::string& name, NumericField f) {
   std::string self = form.empty() ? name : form + "." + name;
   t.Add({form, name, -1, -1, [self, f](State& s, int, std::string_view text) {
            EventResult r = RunNumericField(s, self, f, text);
@@ -169,8 +165,8 @@ void AddNumericField(ControlTable& t, const std::string& form, const std::string
          }});
 }
 
-void AddControl(ControlTable& t, const std::string& form, const std::string& name,
-                ControlHandler run, int firstIndex, int lastIndex) {
+void AddControl(ControlTable& t, const std::string& form, const std::string& name, ControlHandler run,
+                int firstIndex, int lastIndex) {
   t.Add({form, name, firstIndex, lastIndex, std::move(run)});
 }
 

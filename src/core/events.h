@@ -17,21 +17,21 @@ namespace vn {
 struct State;
 
 struct EventResult {
-  bool known = true;         // false: no control of that name
-  bool refused = false;      // a warning box was shown (message below)
-  std::string message;       // text of the warning box, empty if none
-  std::string focus;         // control that gets the focus afterwards ("" = unchanged)
-  std::string text;          // the field's text after the event (reformatted value)
-  bool recalculated = false; // Recalculate ran at least once
-  std::string question;      // a question the front end asks; the answer comes back as the text
-  bool exit = false;         // the program ends at once
+  bool known = true;          // false: no control of that name
+  bool refused = false;       // a warning box was shown (message below)
+  std::string message;        // text of the warning box, empty if none
+  std::string focus;          // control that gets the focus afterwards ("" = unchanged)
+  std::string text;           // the field's text after the event (reformatted value)
+  bool recalculated = false;  // Recalculate ran at least once
+  std::string question;       // a question the front end asks; the answer comes back as the text
+  bool exit = false;          // the program ends at once
 };
 
 using ControlHandler = std::function<EventResult(State& s, int index, std::string_view text)>;
 
 struct ControlEntry {
-  std::string form;  // "" the main form, else the dialog: "Loading", "setup", "p04" ...
-  std::string name;  // "il", "iq", "cbutt2"
+  std::string form;                     // "" the main form, else the dialog: "Loading", "setup", "p04" ...
+  std::string name;                     // "il", "iq", "cbutt2"
   int firstIndex = -1, lastIndex = -1;  // a control array takes indices firstIndex..lastIndex
   ControlHandler run;
 };
@@ -61,23 +61,21 @@ struct NumericField {
   bool integer = false;  // an Integer field: rounds halves to even, overflow is silent
   std::function<void(State&, double)> store;
   std::function<double(const State&)> value;
-  std::function<bool(const State&, double)> valid;  // nullptr: no range test
-  std::string message;                              // warning text when not valid
-  std::string enter;                                // control the Enter key moves to
-  std::function<void(State&)> after;                // what runs after a valid value
-  bool mismatchMessage = true;                      // false: a mismatch shows nothing
-  std::function<std::string(const State&)> enterFn; // the Enter target where it depends on the state
+  std::function<bool(const State&, double)> valid;   // nullptr: no range test
+  std::string message;                               // warning text when not valid
+  std::string enter;                                 // control the Enter key moves to
+  std::function<void(State&)> after;                 // what runs after a valid value
+  bool mismatchMessage = true;                       // false: a mismatch shows nothing
+  std::function<std::string(const State&)> enterFn;  // the Enter target where it depends on the state
 };
 
 // The parse step of every numeric field: the typed text as a Single. A text that is no number in
 // the decimal-comma locale refuses with "Input string mismatch " and keeps the focus on `self`;
 // a value beyond the range of a Single ends the event silently. Both give false with `r` filled.
-bool ParseFieldText(State& s, const std::string& self, std::string_view text, Single* value,
-                    EventResult* r);
+bool ParseFieldText(State& s, const std::string& self, std::string_view text, Single* value, EventResult* r);
 
 // Parse, store before the test, reformat, test, then recalculate or refuse with the message.
-EventResult RunNumericField(State& s, const std::string& self, const NumericField& f,
-                            std::string_view text);
+EventResult RunNumericField(State& s, const std::string& self, const NumericField& f, std::string_view text);
 
 // Registration of the controls of each form; each subsystem adds its own.
 void RegisterMainFormControls(ControlTable& t);
@@ -89,11 +87,10 @@ inline constexpr const char* kMismatchText = "Input string mismatch ";
 namespace vn {
 
 // Adds a numeric field with the protocol above; `form` is "" for the main form.
-void AddNumericField(ControlTable& t, const std::string& form, const std::string& name,
-                     NumericField f);
+void AddNumericField(ControlTable& t, const std::string& form, const std::string& name, NumericField f);
 // Adds a button, option, check box, list or menu entry.
-void AddControl(ControlTable& t, const std::string& form, const std::string& name,
-                ControlHandler run, int firstIndex = -1, int lastIndex = -1);
+void AddControl(ControlTable& t, const std::string& form, const std::string& name, ControlHandler run,
+                int firstIndex = -1, int lastIndex = -1);
 
 }  // namespace vn
 

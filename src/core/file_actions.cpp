@@ -189,19 +189,16 @@ EventResult NewAction(State& s, const std::string& answer) {
 }
 
 void RegisterFileMenuControls(ControlTable& t) {
-  AddControl(t, "", "mnunew", [](State& s, int, std::string_view text) {
-    return NewAction(s, std::string(text));
-  });
-  AddControl(t, "", "mnuopen", [](State& s, int, std::string_view text) {
-    return OpenAction(s, std::string(text));
-  });
+  AddControl(t, "", "mnunew",
+             [](State& s, int, std::string_view text) { return NewAction(s, std::string(text)); });
+  AddControl(t, "", "mnuopen",
+             [](State& s, int, std::string_view text) { return OpenAction(s, std::string(text)); });
   AddControl(t, "", "mnusave", [](State& s, int, std::string_view text) {
     // The fields of the main form are in the record already: each edit stored its text.
     return SaveAction(s, std::string(text));
   });
-  AddControl(t, "", "mnusaveas", [](State& s, int, std::string_view text) {
-    return SaveAsAction(s, std::string(text));
-  });
+  AddControl(t, "", "mnusaveas",
+             [](State& s, int, std::string_view text) { return SaveAsAction(s, std::string(text)); });
   AddControl(
       t, "", "mnurecentfile",
       [](State& s, int index, std::string_view) { return RecentFileAction(s, index); }, 0, 4);

@@ -90,8 +90,7 @@ std::vector<Token> Tokenize(std::string_view p) {
     } else if (c == '.' && !point && !exp) {
       toks.push_back({Tok::Point, {}});
       point = true;
-    } else if ((c == 'E' || c == 'e') && !exp && i + 1 < p.size() &&
-               (p[i + 1] == '+' || p[i + 1] == '-')) {
+    } else if ((c == 'E' || c == 'e') && !exp && i + 1 < p.size() && (p[i + 1] == '+' || p[i + 1] == '-')) {
       toks.push_back({Tok::Exp, std::string{c, p[i + 1]}});
       ++i;
       exp = true;
@@ -294,8 +293,8 @@ std::string FormatNumber(double v, std::string_view pattern, bool decimalComma) 
       fp = std::string(-d.point, '0') + s;
     }
   }
-  bool zero = ip.find_first_not_of('0') == std::string::npos &&
-              fp.find_first_not_of('0') == std::string::npos;
+  bool zero =
+      ip.find_first_not_of('0') == std::string::npos && fp.find_first_not_of('0') == std::string::npos;
   while (static_cast<int>(fp.size()) > fracLastZero && fp.back() == '0') fp.pop_back();
 
   Filler whole, expo;
@@ -309,9 +308,7 @@ std::string FormatNumber(double v, std::string_view pattern, bool decimalComma) 
   int fracIndex = 0;
   for (const Token& t : toks) {
     switch (t.kind) {
-      case Tok::Lit:
-        out += t.text;
-        break;
+      case Tok::Lit: out += t.text; break;
       case Tok::Point:
         out += decimalComma ? ',' : '.';
         region = 1;

@@ -50,11 +50,9 @@ inline std::string NumberText(double v) { return DoubleFileText(v); }
 //    mismatch.
 // A value beyond the range of the result sets *overflow (run-time error 6) and gives 0.
 // The flags are only ever set, never cleared; either pointer may be null.
-double ParseNumberD(std::string_view text, bool decimalComma, bool* mismatch,
-                    bool* overflow = nullptr);
+double ParseNumberD(std::string_view text, bool decimalComma, bool* mismatch, bool* overflow = nullptr);
 // The same, stored into a Single as the fields do.
-float ParseNumber(std::string_view text, bool decimalComma, bool* mismatch,
-                  bool* overflow = nullptr);
+float ParseNumber(std::string_view text, bool decimalComma, bool* mismatch, bool* overflow = nullptr);
 
 // A value stored into an Integer field: rounded to the nearest integer, halves to the even one
 // (99.5 -> 100, 100.5 -> 100, -0.5 -> 0). Outside -32768..32767 (or not finite) it sets *overflow

@@ -14,9 +14,8 @@ namespace vn {
 
 namespace {
 
-const char* const kLoadCombTexts[6] = {"EN 1990 Eq 6.10",    "EN 1990 Eq 6.10a",
-                                       "EN 1990 Eq 6.10b",   "EN 1990 Eq 6.10a/b",
-                                       "ULS/SLS",            "Basic loads"};
+const char* const kLoadCombTexts[6] = {"EN 1990 Eq 6.10",    "EN 1990 Eq 6.10a", "EN 1990 Eq 6.10b",
+                                       "EN 1990 Eq 6.10a/b", "ULS/SLS",          "Basic loads"};
 const char* const kCurveTexts[6] = {"Auto", "a0", "a", "b", "c", "d"};
 
 float LtbFactorOfCase(int ltbCase) {
@@ -33,10 +32,14 @@ float LtbFactorOfCase(int ltbCase) {
 // 6; case 5 shows button 5. The factor is compared exactly, as a Single.
 int BucklingPicture(Single factor, Integer bucklingCase) {
   int pic = 6;
-  if (factor == 2.0f) pic = 1;
-  else if (factor == 1.0f) pic = 2;
-  else if (factor == 0.7f) pic = 3;
-  else if (factor == 0.5f) pic = 4;
+  if (factor == 2.0f)
+    pic = 1;
+  else if (factor == 1.0f)
+    pic = 2;
+  else if (factor == 0.7f)
+    pic = 3;
+  else if (factor == 0.5f)
+    pic = 4;
   if (bucklingCase == 5) pic = 5;
   return pic;
 }
@@ -123,71 +126,72 @@ void RegisterMainFormControls(ControlTable& t) {
   AddNumericField(t, "", "ifyk",
                   {"#00", false, [](State& s, double v) { s.project.fyk = static_cast<Single>(v); },
                    [](const State& s) { return double(s.project.fyk); },
-                   [](const State&, double v) { return v >= 50 && v <= 2000; },
-                   " 50 <= fyk <= 2000 ", "il", AfterFykChange});
+                   [](const State&, double v) { return v >= 50 && v <= 2000; }, " 50 <= fyk <= 2000 ", "il",
+                   AfterFykChange});
   AddNumericField(t, "", "il",
                   {"#0.000", false, [](State& s, double v) { s.project.L = static_cast<Single>(v); },
                    [](const State& s) { return double(s.project.L); },
-                   [](const State&, double v) { return v >= 0.05; }, " L >= 0.050 ", "ibly", nullptr,
-                   true, [](const State& s) {
+                   [](const State&, double v) { return v >= 0.05; }, " L >= 0.050 ", "ibly", nullptr, true,
+                   [](const State& s) {
                      // Enter goes on to the buckling factors only while "Column data" is shown.
                      auto shown = s.view.visible.find("columnframe");
                      return shown == s.view.visible.end() || shown->second ? std::string("ibly")
-                                                                            : std::string("iproj");
+                                                                           : std::string("iproj");
                    }});
-  AddNumericField(t, "", "ibly",
-                  {"#0.00", false,
-                   [](State& s, double v) { s.project.bucklingFactorY = static_cast<Single>(v); },
-                   [](const State& s) { return double(s.project.bucklingFactorY); },
-                   [](const State&, double v) { return v >= 0.2; },
-                   " Buckling length factor Y-axis >= 0.2 ", "iblz",
-                   [](State& s) {
-                     s.project.bucklingCaseY = 6;
-                     Recalculate(s);
-                   }});
-  AddNumericField(t, "", "iblz",
-                  {"#0.00", false,
-                   [](State& s, double v) { s.project.bucklingFactorZ = static_cast<Single>(v); },
-                   [](const State& s) { return double(s.project.bucklingFactorZ); },
-                   [](const State&, double v) { return v >= 0.2; },
-                   " Buckling length factor Z-axis >= 0.2 ", "iproj",
-                   [](State& s) {
-                     s.project.bucklingCaseZ = 6;
-                     Recalculate(s);
-                   }});
+  AddNumericField(
+      t, "", "ibly",
+      {"#0.00", false, [](State& s, double v) { s.project.bucklingFactorY = static_cast<Single>(v); },
+       [](const State& s) { return double(s.project.bucklingFactorY); },
+       [](const State&, double v) { return v >= 0.2; }, " Buckling length factor Y-axis >= 0.2 ", "iblz",
+       [](State& s) {
+         s.project.bucklingCaseY = 6;
+         Recalculate(s);
+       }});
+  AddNumericField(
+      t, "", "iblz",
+      {"#0.00", false, [](State& s, double v) { s.project.bucklingFactorZ = static_cast<Single>(v); },
+       [](const State& s) { return double(s.project.bucklingFactorZ); },
+       [](const State&, double v) { return v >= 0.2; }, " Buckling length factor Z-axis >= 0.2 ", "iproj",
+       [](State& s) {
+         s.project.bucklingCaseZ = 6;
+         Recalculate(s);
+       }});
   AddNumericField(t, "", "ispring",
-                  {"#0", true,
-                   [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
+                  {"#0", true, [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
                    [](const State& s) { return double(s.project.SpringPct); },
-                   [](const State&, double v) { return v >= 0 && v <= 100; },
-                   " 1 < Spring-restraint  > 99 ", "il", nullptr});
-  AddNumericField(t, "", "idef_limit",
-                  {"#0", true,
-                   [](State& s, double v) { s.project.deflectionLimit = static_cast<Integer>(v); },
-                   [](const State& s) { return double(s.project.deflectionLimit); },
-                   [](const State&, double v) { return v >= 100 && v <= 1500; },
-                   "100 <= Deflection <=1500 ", "ch_modal", nullptr});
+                   [](const State&, double v) { return v >= 0 && v <= 100; }, " 1 < Spring-restraint  > 99 ",
+                   "il", nullptr});
+  AddNumericField(
+      t, "", "idef_limit",
+      {"#0", true, [](State& s, double v) { s.project.deflectionLimit = static_cast<Integer>(v); },
+       [](const State& s) { return double(s.project.deflectionLimit); },
+       [](const State&, double v) { return v >= 100 && v <= 1500; }, "100 <= Deflection <=1500 ", "ch_modal",
+       nullptr});
 
   // Enter on the spring button confirms the spring value typed in ispring, with a narrower range
   // than leaving the field: the event's text is that value (no text is a click).
-  const NumericField springByEnter{
-      "#0", true, [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
-      [](const State& s) { return double(s.project.SpringPct); },
-      [](const State&, double v) { return v >= 1 && v <= 99; }, " 1 < springstiffness 99 ", "il",
-      nullptr};
+  const NumericField springByEnter{"#0",
+                                   true,
+                                   [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
+                                   [](const State& s) { return double(s.project.SpringPct); },
+                                   [](const State&, double v) { return v >= 1 && v <= 99; },
+                                   " 1 < springstiffness 99 ",
+                                   "il",
+                                   nullptr};
   for (int type = 0; type <= 5; ++type) {
-    AddControl(t, "", "cbutt" + std::to_string(type), [type, springByEnter](State& s, int, std::string_view text) {
-      if (type == 5 && !text.empty()) {
-        EventResult r = RunNumericField(s, "ispring", springByEnter, text);
-        s.view.text["ispring"] = r.text;
-        return r;
-      }
-      OnSupportButton(s, type);
-      Recalculate(s);
-      EventResult r;
-      if (type == 3 || type == 5) r.focus = "ispring";
-      return r;
-    });
+    AddControl(t, "", "cbutt" + std::to_string(type),
+               [type, springByEnter](State& s, int, std::string_view text) {
+                 if (type == 5 && !text.empty()) {
+                   EventResult r = RunNumericField(s, "ispring", springByEnter, text);
+                   s.view.text["ispring"] = r.text;
+                   return r;
+                 }
+                 OnSupportButton(s, type);
+                 Recalculate(s);
+                 EventResult r;
+                 if (type == 3 || type == 5) r.focus = "ispring";
+                 return r;
+               });
   }
 
   AddControl(t, "", "cbofyk", [](State& s, int, std::string_view text) {
@@ -245,9 +249,8 @@ void RegisterMainFormControls(ControlTable& t) {
     OnLtbCheck(s, ChoiceIndex(text) == 1);
     return Recalculated(s);
   });
-  AddControl(t, "", "ch_modal", [](State& s, int, std::string_view text) {
-    return OnModalCheck(s, ChoiceIndex(text) == 1);
-  });
+  AddControl(t, "", "ch_modal",
+             [](State& s, int, std::string_view text) { return OnModalCheck(s, ChoiceIndex(text) == 1); });
 
   // The dialog about the program.
   // The information forms: opened by a button or a picture, closed by a click on them.
@@ -271,7 +274,6 @@ void RegisterMainFormControls(ControlTable& t) {
   info("InfoVARNELT", "Picture");
   info("InfoULS", "setup.cmdULS");
   info("InfoPsi", "setup.cmdPsi");
-
 }
 
 void RefreshMainForm(State& s) {

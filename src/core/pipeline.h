@@ -6,15 +6,15 @@ namespace vn {
 
 struct State;
 
-void ComputeSection(State& s);      // sections: properties, classes, resistances
-void ShowSectionValues(State& s);   // sections: the values of the open section dialog
-void DrawSectionFigure(State& s);   // graphics: the section figure
-void MemberAnalysis(State& s);      // analysis: internal forces and deflections
-void RunControls(State& s);         // checks: the controls of the section family
-void DrawCharts(State& s);          // graphics: load and result charts
-void ModalAnalysis(State& s);       // analysis: natural frequencies
-void ShowWebText(State& s);         // checks: web stiffener and shear text
-void ShowControls(State& s);        // results: the summary of controls
-void UpdateMainFormState(State& s); // graphics: member figure and main form state
+void ComputeSection(State& s);       // sections: properties, classes, resistances
+void ShowSectionValues(State& s);    // sections: the values of the open section dialog
+void DrawSectionFigure(State& s);    // graphics: the section figure
+void MemberAnalysis(State& s);       // analysis: internal forces and deflections
+void RunControls(State& s);          // checks: the controls of the section family
+void DrawCharts(State& s);           // graphics: load and result charts
+void ModalAnalysis(State& s);        // analysis: natural frequencies
+void ShowWebText(State& s);          // checks: web stiffener and shear text
+void ShowControls(State& s);         // results: the summary of controls
+void UpdateMainFormState(State& s);  // graphics: member figure and main form state
 
 }  // namespace vn

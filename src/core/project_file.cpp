@@ -76,8 +76,10 @@ class Reader {
       pos_ = end;
       if (quoted) *quoted = false;
     }
-    if (pos_ < t_.size() && t_[pos_] == ',') ++pos_;
-    else SkipLineEnd();
+    if (pos_ < t_.size() && t_[pos_] == ',')
+      ++pos_;
+    else
+      SkipLineEnd();
     return v;
   }
 
@@ -257,46 +259,83 @@ void WalkProject(IO& io, State& s, int version) {
     switch (type) {
       case 21: {
         auto& q = p.p21;
-        io.Sgl(q.isth); io.Sgl(q.istb1); io.Sgl(q.isttw); io.Sgl(q.isttf);
+        io.Sgl(q.isth);
+        io.Sgl(q.istb1);
+        io.Sgl(q.isttw);
+        io.Sgl(q.isttf);
         break;
       }
       case 22: {
         auto& q = p.p22;
-        io.Sgl(q.isth); io.Sgl(q.istb1); io.Sgl(q.istb2); io.Sgl(q.isttw); io.Sgl(q.isttf1); io.Sgl(q.isttf2);
+        io.Sgl(q.isth);
+        io.Sgl(q.istb1);
+        io.Sgl(q.istb2);
+        io.Sgl(q.isttw);
+        io.Sgl(q.isttf1);
+        io.Sgl(q.isttf2);
         break;
       }
       case 23: {
         auto& q = p.p23;
-        io.Sgl(q.isth); io.Sgl(q.istb1); io.Sgl(q.isttw); io.Sgl(q.isttf); io.Sgl(q.ista); io.Int(q.oweld);
+        io.Sgl(q.isth);
+        io.Sgl(q.istb1);
+        io.Sgl(q.isttw);
+        io.Sgl(q.isttf);
+        io.Sgl(q.ista);
+        io.Int(q.oweld);
         break;
       }
       case 24: {
         auto& q = p.p24;
-        io.Sgl(q.isth); io.Sgl(q.istb1); io.Sgl(q.istb2); io.Sgl(q.isttw); io.Sgl(q.isttf1); io.Sgl(q.isttf2);
+        io.Sgl(q.isth);
+        io.Sgl(q.istb1);
+        io.Sgl(q.istb2);
+        io.Sgl(q.isttw);
+        io.Sgl(q.isttf1);
+        io.Sgl(q.isttf2);
         // The slot after tf2 holds family 25's c: written from it, read into family 24's c.
-        if (IO::kReading) io.Sgl(q.c);
-        else io.Sgl(p.p25.istc);
+        if (IO::kReading)
+          io.Sgl(q.c);
+        else
+          io.Sgl(p.p25.istc);
         io.Sgl(q.iload);
-        if (IO::kReading && version < 120) q.classOption = 1;
-        else io.Int(q.classOption);
+        if (IO::kReading && version < 120)
+          q.classOption = 1;
+        else
+          io.Int(q.classOption);
         break;
       }
       case 25: {
         auto& q = p.p25;
-        io.Sgl(q.isth); io.Sgl(q.istb1); io.Sgl(q.istb2); io.Sgl(q.isttw); io.Sgl(q.isttf1); io.Sgl(q.isttf2);
+        io.Sgl(q.isth);
+        io.Sgl(q.istb1);
+        io.Sgl(q.istb2);
+        io.Sgl(q.isttw);
+        io.Sgl(q.isttf1);
+        io.Sgl(q.isttf2);
         io.Sgl(q.istc);
-        if (IO::kReading && version < 120) q.classOption = 1;
-        else io.Int(q.classOption);
+        if (IO::kReading && version < 120)
+          q.classOption = 1;
+        else
+          io.Int(q.classOption);
         break;
       }
       case 26: {
         auto& q = p.p26;
-        io.Num(q.isth); io.Num(q.istb1); io.Num(q.isttw); io.Sgl(q.isttf1);
+        io.Num(q.isth);
+        io.Num(q.istb1);
+        io.Num(q.isttw);
+        io.Sgl(q.isttf1);
         break;
       }
       case 27: {
         auto& q = p.p27;
-        io.Num(q.isth); io.Num(q.istb1); io.Num(q.istb2); io.Num(q.isttw); io.Num(q.isttf1); io.Num(q.isttf2);
+        io.Num(q.isth);
+        io.Num(q.istb1);
+        io.Num(q.istb2);
+        io.Num(q.isttw);
+        io.Num(q.isttf1);
+        io.Num(q.isttf2);
         io.Sgl(q.istc);
         break;
       }
@@ -312,26 +351,49 @@ void WalkProject(IO& io, State& s, int version) {
       case 41: {
         auto& q = p.p41;
         io.Str(q.name);
-        io.Int(q.classN); io.Int(q.classMy); io.Int(q.classMz);
-        io.Sgl(q.istax); io.Sgl(q.istay); io.Sgl(q.istaz); io.Sgl(q.istix); io.Sgl(q.istiy);
-        io.Sgl(q.istiz); io.Sgl(q.istiw); io.Sgl(q.istwely); io.Sgl(q.istwelz); io.Sgl(q.istwply);
+        io.Int(q.classN);
+        io.Int(q.classMy);
+        io.Int(q.classMz);
+        io.Sgl(q.istax);
+        io.Sgl(q.istay);
+        io.Sgl(q.istaz);
+        io.Sgl(q.istix);
+        io.Sgl(q.istiy);
+        io.Sgl(q.istiz);
+        io.Sgl(q.istiw);
+        io.Sgl(q.istwely);
+        io.Sgl(q.istwelz);
+        io.Sgl(q.istwply);
         io.Sgl(q.istwplz);
         break;
       }
       case 51: {
         auto& q = p.p51;
-        io.Num(q.isth); io.Num(q.istb1); io.Num(q.isttw); io.Sgl(q.isttf1);
+        io.Num(q.isth);
+        io.Num(q.istb1);
+        io.Num(q.isttw);
+        io.Sgl(q.isttf1);
         break;
       }
       case 53:
       case 56: {
         auto& q = type == 53 ? p.p53 : p.p56;
-        io.Num(q.isth); io.Num(q.istb1); io.Num(q.istb2); io.Num(q.isttw); io.Num(q.isttf1); io.Sgl(q.isttf2);
+        io.Num(q.isth);
+        io.Num(q.istb1);
+        io.Num(q.istb2);
+        io.Num(q.isttw);
+        io.Num(q.isttf1);
+        io.Sgl(q.isttf2);
         break;
       }
       case 55: {
         auto& q = p.p55;
-        io.Num(q.v1); io.Num(q.v2); io.Num(q.v3); io.Sgl(q.v4); io.Num(q.v5); io.Num(q.v6);
+        io.Num(q.v1);
+        io.Num(q.v2);
+        io.Num(q.v3);
+        io.Sgl(q.v4);
+        io.Num(q.v5);
+        io.Num(q.v6);
         break;
       }
       case 101:
@@ -342,8 +404,7 @@ void WalkProject(IO& io, State& s, int version) {
         io.Int(p.subFamily103);
         io.Int(p.SelectedRow[static_cast<size_t>(ChannelCatalogue(p.subFamily103))]);
         break;
-      default:
-        break;  // no block
+      default: break;  // no block
     }
   }
 

@@ -9,9 +9,9 @@ struct State;
 
 enum class FileResult {
   Ok,
-  NotFound,      // error 53: "can't find file - " / "can't save file - "
-  PastEnd,       // error 62: "Input file not compatible with this version "
-  OtherError,    // any other run-time error: the action ends silently
+  NotFound,    // error 53: "can't find file - " / "can't save file - "
+  PastEnd,     // error 62: "Input file not compatible with this version "
+  OtherError,  // any other run-time error: the action ends silently
 };
 
 inline constexpr int kProjectVersion = 120;

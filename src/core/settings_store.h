@@ -3,8 +3,8 @@
 #pragma once
 
 #include <map>
-#include <tuple>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -19,7 +19,7 @@ class SettingsStore {
                    const std::string& value) = 0;
   // All keys of a section with their values, in the order of the keys.
   virtual std::vector<std::pair<std::string, std::string>> GetAll(const std::string& app,
-                                                                   const std::string& section) = 0;
+                                                                  const std::string& section) = 0;
 };
 
 class MemorySettingsStore : public SettingsStore {
@@ -33,7 +33,7 @@ class MemorySettingsStore : public SettingsStore {
     values_[{app, section, key}] = value;
   }
   std::vector<std::pair<std::string, std::string>> GetAll(const std::string& app,
-                                                           const std::string& section) override {
+                                                          const std::string& section) override {
     std::vector<std::pair<std::string, std::string>> all;
     for (const auto& [k, v] : values_)
       if (k.app == app && k.section == section) all.emplace_back(k.key, v);

@@ -30,17 +30,17 @@ struct State {
   CombinationFactors comb;
   View view;
 
-  Single NEdAbs = 0;         // working axial force of the section classes and controls
+  Single NEdAbs = 0;  // working axial force of the section classes and controls
 
-  std::string appPath;       // the program's folder, where its data files lie
-  std::string currentDir;    // the start folder of the file dialogs
+  std::string appPath;     // the program's folder, where its data files lie
+  std::string currentDir;  // the start folder of the file dialogs
   // The per-user settings store of the recent files; in memory unless a front end sets another.
   std::shared_ptr<SettingsStore> settings = std::make_shared<MemorySettingsStore>();
   // The spreadsheet the More Results table is exported to, set by a front end that has one
   // (false with the reason when the file can't be written); empty: the export fails.
   std::function<bool(const State&, const std::string& path, std::string* error)> spreadsheet;
-  bool decimalComma = false; // the user's locale writes 1,1 for 1.1
-  int recalcCount = 0;       // runs of Recalculate, for tests and the command line
+  bool decimalComma = false;  // the user's locale writes 1,1 for 1.1
+  int recalcCount = 0;        // runs of Recalculate, for tests and the command line
 };
 
 }  // namespace vn

@@ -28,11 +28,11 @@ struct SummaryLine {
 };
 
 struct View {
-  std::string caption;           // caption of the main form
-  std::string txtError;          // caption of the error label
+  std::string caption;   // caption of the main form
+  std::string txtError;  // caption of the error label
   bool txtErrorVisible = false;
-  std::string lastMessage;       // warning text of the last event, if any
-  std::string runMessage;        // a box that a stage of the recalculation showed during the event
+  std::string lastMessage;  // warning text of the last event, if any
+  std::string runMessage;   // a box that a stage of the recalculation showed during the event
 
   std::map<std::string, std::string> text;                // field and label texts
   std::map<std::string, int> value;                       // list index, check box 0/1, option set

@@ -77,9 +77,7 @@ Integer CodeIndexFromId(const std::string& codeId) {
   return 0;
 }
 
-std::string CodeIdFromIndex(int codeIndex) {
-  return KnownCode(codeIndex) ? kCodes[codeIndex].id : "";
-}
+std::string CodeIdFromIndex(int codeIndex) { return KnownCode(codeIndex) ? kCodes[codeIndex].id : ""; }
 
 std::string CodeDisplayName(int codeIndex) {
   return KnownCode(codeIndex) ? kCodes[codeIndex].displayName : "";

@@ -36,15 +36,12 @@ constexpr GammaRow kGammas[kCodeLast + 1] = {
 float Kfi(int codeIndex, int safetyClass, int loadCombMode) {
   switch (codeIndex) {
     case 1:
-    case 7:
-      return safetyClass == 1 ? 0.9f : 1.0f;
-    case 2:
-      return safetyClass == 1 ? 0.83f : safetyClass == 2 ? 0.91f : 1.0f;
+    case 7: return safetyClass == 1 ? 0.9f : 1.0f;
+    case 2: return safetyClass == 1 ? 0.83f : safetyClass == 2 ? 0.91f : 1.0f;
     case 3:
       if (safetyClass == 1) return loadCombMode == 0 ? 1.0f : 0.9f;
       return safetyClass == 2 ? 1.0f : 1.1f;
-    case 5:
-      return safetyClass == 1 ? 0.9f : safetyClass == 2 ? 1.0f : 1.1f;
+    case 5: return safetyClass == 1 ? 0.9f : safetyClass == 2 ? 1.0f : 1.1f;
   }
   return 1.0f;
 }
@@ -54,9 +51,7 @@ bool KfiOnPermanent(int codeIndex) { return codeIndex == 2 || codeIndex == 3 || 
 
 }  // namespace
 
-std::string LoadCombText(int mode) {
-  return mode >= 0 && mode < kLoadCombModes ? kLoadCombTexts[mode] : "";
-}
+std::string LoadCombText(int mode) { return mode >= 0 && mode < kLoadCombModes ? kLoadCombTexts[mode] : ""; }
 
 Single PsiOfIndex(int index) { return static_cast<Single>((index + 1) * 0.1); }
 
@@ -89,29 +84,27 @@ void SetCombinationFactors(State& s, int codeIndex) {
     case 1:
     case 7:
       c.text610 = "ULS: Eq 6.10: LC = 1.35*G + " + k + "*1.5*Q1 + " + k + "*1.5*" + psi1 + "*Q2";
-      c.text610a = "ULS: Eq 6.10a: LC = 1.35*G +" + k + "*1.5*" + psi1 + "*Q1 + " + k + "*1.5*" +
-                   psi2 + "*Q2";
-      c.text610b = "ULS: Eq 6.10b: LC = " + xi + "*" + g610b + "*G + " + k + "*1.5*Q1 + " + k +
-                   "*1.5*" + psi2 + "*Q2";
+      c.text610a =
+          "ULS: Eq 6.10a: LC = 1.35*G +" + k + "*1.5*" + psi1 + "*Q1 + " + k + "*1.5*" + psi2 + "*Q2";
+      c.text610b =
+          "ULS: Eq 6.10b: LC = " + xi + "*" + g610b + "*G + " + k + "*1.5*Q1 + " + k + "*1.5*" + psi2 + "*Q2";
       break;
     case 2:
       c.text610 = "ULS: Eq 6.10: LC = " + k + "*(1.35*G + 1.5*Q1 + 1.5*" + psi1 + "*Q2)";
-      c.text610a =
-          "ULS: Eq 6.10a: LC = " + k + "*(1.35*G + 1.5*" + psi1 + "*Q1 + " + "1.5*" + psi2 + "*Q2)";
-      c.text610b = "ULS: Eq 6.10b: LC = " + k + "*(" + xi + "*" + g610b + "*G" +
-                   " + 1.5*Q1 + 1.5*" + psi2 + "*Q2)";
+      c.text610a = "ULS: Eq 6.10a: LC = " + k + "*(1.35*G + 1.5*" + psi1 + "*Q1 + " + "1.5*" + psi2 + "*Q2)";
+      c.text610b =
+          "ULS: Eq 6.10b: LC = " + k + "*(" + xi + "*" + g610b + "*G" + " + 1.5*Q1 + 1.5*" + psi2 + "*Q2)";
       break;
     case 3:
       c.text610 = "ULS: Eq 6.10: LC = " + k + "(1.1*G + 1.5*Q1 + 1.5*" + psi1 + "*Q2)";
       c.text610a = "ULS: Eq 6.10a: LC = " + k + "*1.2*G";
-      c.text610b = "ULS: Eq 6.10b: LC = " + k + "*(" + xi + "*" + g610b + "*G" +
-                   " + 1.5*Q1 + 1.5*" + psi2 + "*Q2)";
+      c.text610b =
+          "ULS: Eq 6.10b: LC = " + k + "*(" + xi + "*" + g610b + "*G" + " + 1.5*Q1 + 1.5*" + psi2 + "*Q2)";
       break;
     case 5:
       c.text610 = "ULS: Eq 6.10: LC =  " + k + " (1.1*G + 1.5*Q1 + 1.5*" + psi1 + "*Q2)";
       c.text610a = "ULS: Eq 6.10a: LC = " + k + "*1.35*G";
-      c.text610b =
-          "ULS: Eq 6.10b: LC = " + k + "*(" + g610b + "*G + 1.5*Q1 +" + "1.5*" + psi2 + "*Q2)";
+      c.text610b = "ULS: Eq 6.10b: LC = " + k + "*(" + g610b + "*G + 1.5*Q1 +" + "1.5*" + psi2 + "*Q2)";
       break;
     default:  // EU, UK, GE, UD
       // psi1 at Q2 in Eq 6.10 is the program's text.
@@ -128,10 +121,8 @@ void BuildLoadFactorTexts(State& s) {
   CombinationFactors& c = s.comb;
   const bool dc = s.decimalComma;
   auto F = [dc](double v) { return FormatNumber(v, "0.00", dc); };
-  c.textULSUser =
-      "ULS: " + F(p.LfULS_G) + "*G + " + F(p.LfULS_Q1) + "*Q1 + " + F(p.LfULS_Q2) + "*Q2";
-  c.textSLSUser =
-      "SLS: " + F(p.LfSLS_G) + "*G + " + F(p.LfSLS_Q1) + "*Q1 + " + F(p.LfSLS_Q2) + "*Q2";
+  c.textULSUser = "ULS: " + F(p.LfULS_G) + "*G + " + F(p.LfULS_Q1) + "*Q1 + " + F(p.LfULS_Q2) + "*Q2";
+  c.textSLSUser = "SLS: " + F(p.LfSLS_G) + "*G + " + F(p.LfSLS_Q1) + "*Q1 + " + F(p.LfSLS_Q2) + "*Q2";
   c.textBasic = "Basic loads: G + Q1 + Q2";
 }
 
@@ -142,24 +133,12 @@ void RebuildCombinationList(State& s) {
   std::vector<std::string>& lines = v.items["setup.lstCombination"];
   lines.clear();
   switch (p.LoadCombMode) {
-    case 0:
-      lines = {c.text610, c.textSLS};
-      break;
-    case 1:
-      lines = {c.text610a, c.textSLS};
-      break;
-    case 2:
-      lines = {c.text610b, c.textSLS};
-      break;
-    case 3:
-      lines = {c.text610a, c.text610b, c.textSLS};
-      break;
-    case 4:
-      lines = {c.textULSUser, c.textSLSUser};
-      break;
-    case 5:
-      lines = {"Basic loads: G + Q1 + Q2"};
-      break;
+    case 0: lines = {c.text610, c.textSLS}; break;
+    case 1: lines = {c.text610a, c.textSLS}; break;
+    case 2: lines = {c.text610b, c.textSLS}; break;
+    case 3: lines = {c.text610a, c.text610b, c.textSLS}; break;
+    case 4: lines = {c.textULSUser, c.textSLSUser}; break;
+    case 5: lines = {"Basic loads: G + Q1 + Q2"}; break;
   }
 
   // The code may have changed the factors: show them again.
@@ -192,23 +171,15 @@ void SetClassFrames(State& s) {
       v.value["setup.rbtnSafetyNorwayClass24"] = p.safetyClass == 1 ? 0 : 1;
       return;
     }
-    case 2:
-      caption = "Safety Class";
-      break;
-    case 3:
-      caption = "Consequences Class";
-      break;
-    case 5:
-      caption = "Reliability Class";
-      break;
-    default:
-      return;  // no class for the other codes
+    case 2: caption = "Safety Class"; break;
+    case 3: caption = "Consequences Class"; break;
+    case 5: caption = "Reliability Class"; break;
+    default: return;  // no class for the other codes
   }
   v.visible["setup.frSafetyClass"] = true;
   v.text["setup.frSafetyClass"] = caption;
   const int option = p.safetyClass == 1 || p.safetyClass == 2 ? p.safetyClass : 3;
-  for (int i = 1; i <= 3; ++i)
-    v.value["setup.rbtnSafetyClass" + std::to_string(i)] = option == i ? 1 : 0;
+  for (int i = 1; i <= 3; ++i) v.value["setup.rbtnSafetyClass" + std::to_string(i)] = option == i ? 1 : 0;
 }
 
 void OnPsiChoice(State& s, int list, int index) {

@@ -144,9 +144,7 @@ class SetupValues {
   PortableReader in_;
 };
 
-std::filesystem::path SetupPath(const State& s) {
-  return std::filesystem::path(s.appPath) / kSetupFile;
-}
+std::filesystem::path SetupPath(const State& s) { return std::filesystem::path(s.appPath) / kSetupFile; }
 
 std::string Quoted(const std::string& v) { return "\"" + v + "\""; }
 std::string BooleanText(Boolean b) { return b != 0 ? "#TRUE#" : "#FALSE#"; }
@@ -162,16 +160,15 @@ void ReadSetupFile(State& s) {
     SetupValues f(all.str());
     Project& p = s.project;
     Integer version = 0;  // read and ignored
-    (void)(f.Integer_(version) && f.String_(p.codeId) && f.Double_(p.gammaM0) &&
-           f.Single_(p.gammaM1) && f.Single_(p.neta) && f.Integer_(p.interactionMethod) &&
-           f.Single_(p.lamdaLT0) && f.Double_(p.beta) && f.Single_(p.lamdaLT0w) &&
-           f.Double_(p.betaw) && f.Integer_(p.steelGrade) && f.Single_(p.fyk) && f.Single_(p.E) &&
-           f.Single_(p.uflimit) && f.Boolean_(p.elasticClass12) && f.Boolean_(p.conserControl) &&
-           f.Boolean_(p.noFlangeBuckling) && f.Boolean_(p.noWebBuckling) &&
-           f.Integer_(p.LoadCombMode) && f.Integer_(p.deflectionLimit) &&
-           f.Integer_(p.safetyClass) && f.Integer_(p.psiQ1Index) && f.Integer_(p.psiQ2Index) &&
-           f.Single_(p.LfULS_G) && f.Single_(p.LfULS_Q1) && f.Single_(p.LfULS_Q2) &&
-           f.Single_(p.LfSLS_G) && f.Single_(p.LfSLS_Q1) && f.Single_(p.LfSLS_Q2));
+    (void)(f.Integer_(version) && f.String_(p.codeId) && f.Double_(p.gammaM0) && f.Single_(p.gammaM1) &&
+           f.Single_(p.neta) && f.Integer_(p.interactionMethod) && f.Single_(p.lamdaLT0) &&
+           f.Double_(p.beta) && f.Single_(p.lamdaLT0w) && f.Double_(p.betaw) && f.Integer_(p.steelGrade) &&
+           f.Single_(p.fyk) && f.Single_(p.E) && f.Single_(p.uflimit) && f.Boolean_(p.elasticClass12) &&
+           f.Boolean_(p.conserControl) && f.Boolean_(p.noFlangeBuckling) && f.Boolean_(p.noWebBuckling) &&
+           f.Integer_(p.LoadCombMode) && f.Integer_(p.deflectionLimit) && f.Integer_(p.safetyClass) &&
+           f.Integer_(p.psiQ1Index) && f.Integer_(p.psiQ2Index) && f.Single_(p.LfULS_G) &&
+           f.Single_(p.LfULS_Q1) && f.Single_(p.LfULS_Q2) && f.Single_(p.LfSLS_G) && f.Single_(p.LfSLS_Q1) &&
+           f.Single_(p.LfSLS_Q2));
   } catch (const std::exception&) {
     // A setup file that can't be read gives no message.
   }

@@ -21,9 +21,8 @@ namespace {
 const char* const kForm = "setup";
 
 // The fields under "Parameters can only be changed when using EC3 - User defined".
-const char* const kUserFields[] = {"setup.igammam0",  "setup.igammam1", "setup.ineta",
-                                   "setup.ilamdaLT0", "setup.ibeta",    "setup.ilamdaLT0w",
-                                   "setup.ibetaw"};
+const char* const kUserFields[] = {"setup.igammam0", "setup.igammam1",   "setup.ineta", "setup.ilamdaLT0",
+                                   "setup.ibeta",    "setup.ilamdaLT0w", "setup.ibetaw"};
 
 EventResult NoSuchItem(const char* list, std::string_view text) {
   EventResult r;
@@ -37,8 +36,7 @@ int LastGradeRow(const State& s) { return std::min<int>(s.steel.gradeLast, 30); 
 
 std::vector<std::string> GradeNames(const State& s) {
   std::vector<std::string> names;
-  for (int i = 0; i <= LastGradeRow(s); ++i)
-    names.push_back(s.steel.rows[static_cast<size_t>(i)].name);
+  for (int i = 0; i <= LastGradeRow(s); ++i) names.push_back(s.steel.rows[static_cast<size_t>(i)].name);
   return names;
 }
 
@@ -170,9 +168,8 @@ bool InRange(double v, double lo, double hi) {
 }
 
 template <class T>
-NumericField Field(T Project::*member, const char* format, double lo, double hi,
-                   std::string message, std::string enter,
-                   std::function<void(State&)> after = nullptr) {
+NumericField Field(T Project::*member, const char* format, double lo, double hi, std::string message,
+                   std::string enter, std::function<void(State&)> after = nullptr) {
   NumericField f;
   f.format = format;
   f.integer = std::is_same_v<T, Integer>;
@@ -197,22 +194,19 @@ void RegisterSetupControls(ControlTable& t) {
   const double kNoLimit = std::numeric_limits<float>::infinity();
 
   // Fields of the code; enabled for "EC3 - User defined" only.
-  AddNumericField(
-      t, kForm, "igammam0",
-      Field(&Project::gammaM0, "#0.00", 0.5, 1.5, " 0.5 <= gammam0 <=1.5 ", "igammam1"));
+  AddNumericField(t, kForm, "igammam0",
+                  Field(&Project::gammaM0, "#0.00", 0.5, 1.5, " 0.5 <= gammam0 <=1.5 ", "igammam1"));
   AddNumericField(t, kForm, "igammam1",
                   Field(&Project::gammaM1, "#0.00", 0.5, 1.5, " 0.5 <= gammam1 <=1.5 ", "ineta"));
   AddNumericField(t, kForm, "ineta",
                   Field(&Project::neta, "#0.00", 1.0, 1.2, " 1 <= neta <=1.2 ", "rbtnMethod1"));
-  AddNumericField(
-      t, kForm, "ilamdaLT0",
-      Field(&Project::lamdaLT0, "#0.00", 0.1, 0.8, " 0.1 <= lamdaLT0 <= 0.8 ", "ibeta"));
+  AddNumericField(t, kForm, "ilamdaLT0",
+                  Field(&Project::lamdaLT0, "#0.00", 0.1, 0.8, " 0.1 <= lamdaLT0 <= 0.8 ", "ibeta"));
   // beta passes up to 1, whatever the message says.
   AddNumericField(t, kForm, "ibeta",
                   Field(&Project::beta, "#0.00", 0.1, 1, " 0.1 <= beta <= 0.8 ", "ilamdaLT0w"));
-  AddNumericField(
-      t, kForm, "ilamdaLT0w",
-      Field(&Project::lamdaLT0w, "#0.00", 0.1, 0.8, " 0.1 <= lamdaLT0 <= 0.8 ", "ibetaw"));
+  AddNumericField(t, kForm, "ilamdaLT0w",
+                  Field(&Project::lamdaLT0w, "#0.00", 0.1, 0.8, " 0.1 <= lamdaLT0 <= 0.8 ", "ibetaw"));
   AddNumericField(t, kForm, "ibetaw",
                   Field(&Project::betaw, "#0.00", 0.1, 1, " 0.1 <= beta <= 1 ", "cbofyk"));
 
@@ -224,24 +218,20 @@ void RegisterSetupControls(ControlTable& t) {
                   }));
   AddNumericField(t, kForm, "ie",
                   Field(&Project::E, "0.00E+0", 1000, kNoLimit, " 1000 <= E-modulus ", "Cbo1993"));
-  AddNumericField(
-      t, kForm, "iuflimit",
-      Field(&Project::uflimit, "#0.00", 0, 0.4, " 0 <= uflimit <= 0.4 ", "CheckElastic"));
-  AddNumericField(
-      t, kForm, "idef_limit",
-      Field(&Project::deflectionLimit, "#0", 100, 1500, "100 <= Deflection <=1500 ", "cbofyk"));
+  AddNumericField(t, kForm, "iuflimit",
+                  Field(&Project::uflimit, "#0.00", 0, 0.4, " 0 <= uflimit <= 0.4 ", "CheckElastic"));
+  AddNumericField(t, kForm, "idef_limit",
+                  Field(&Project::deflectionLimit, "#0", 100, 1500, "100 <= Deflection <=1500 ", "cbofyk"));
 
   // Load factors of the mode "ULS/SLS"; 0 and 4 pass, whatever the message says.
   const char* const lfMessage = " 0 < Loadfactor < 4.0 ";
   AddNumericField(t, kForm, "iLfULS_G",
                   Field(&Project::LfULS_G, "#0.00", 0, 4, lfMessage, "iLfULS_Q1", AfterLoadFactor));
-  AddNumericField(
-      t, kForm, "iLfULS_Q1",
-      Field(&Project::LfULS_Q1, "#0.00", 0, 4, lfMessage, "iLfULS_Q2", AfterLoadFactor));
+  AddNumericField(t, kForm, "iLfULS_Q1",
+                  Field(&Project::LfULS_Q1, "#0.00", 0, 4, lfMessage, "iLfULS_Q2", AfterLoadFactor));
   {
     // iLfULS_Q2 recalculates once more at the end of its check, also after a refusal.
-    NumericField f =
-        Field(&Project::LfULS_Q2, "#0.00", 0, 4, lfMessage, "iLfSLS_G", AfterLoadFactor);
+    NumericField f = Field(&Project::LfULS_Q2, "#0.00", 0, 4, lfMessage, "iLfSLS_G", AfterLoadFactor);
     AddControl(t, kForm, "iLfULS_Q2", [f](State& s, int, std::string_view text) {
       EventResult r = RunNumericField(s, "setup.iLfULS_Q2", f, text);
       s.view.text["setup.iLfULS_Q2"] = r.text;
@@ -252,12 +242,10 @@ void RegisterSetupControls(ControlTable& t) {
   }
   AddNumericField(t, kForm, "iLfSLS_G",
                   Field(&Project::LfSLS_G, "#0.00", 0, 4, lfMessage, "iLfSLS_Q1", AfterLoadFactor));
-  AddNumericField(
-      t, kForm, "iLfSLS_Q1",
-      Field(&Project::LfSLS_Q1, "#0.00", 0, 4, lfMessage, "iLfSLS_Q2", AfterLoadFactor));
-  AddNumericField(
-      t, kForm, "iLfSLS_Q2",
-      Field(&Project::LfSLS_Q2, "#0.00", 0, 4, lfMessage, "idef_limit", AfterLoadFactor));
+  AddNumericField(t, kForm, "iLfSLS_Q1",
+                  Field(&Project::LfSLS_Q1, "#0.00", 0, 4, lfMessage, "iLfSLS_Q2", AfterLoadFactor));
+  AddNumericField(t, kForm, "iLfSLS_Q2",
+                  Field(&Project::LfSLS_Q2, "#0.00", 0, 4, lfMessage, "idef_limit", AfterLoadFactor));
 
   // Lists.
   AddControl(t, kForm, "Cbo1993", [](State& s, int, std::string_view text) {
@@ -291,14 +279,13 @@ void RegisterSetupControls(ControlTable& t) {
 
   // Options.
   for (int method : {1, 2}) {
-    AddControl(t, kForm, "rbtnMethod" + std::to_string(method),
-               [method](State& s, int, std::string_view) {
-                 s.project.interactionMethod = static_cast<Integer>(method);
-                 s.view.value["setup.rbtnMethod1"] = method == 1 ? 1 : 0;
-                 s.view.value["setup.rbtnMethod2"] = method == 2 ? 1 : 0;
-                 Recalculate(s);
-                 return EventResult{};
-               });
+    AddControl(t, kForm, "rbtnMethod" + std::to_string(method), [method](State& s, int, std::string_view) {
+      s.project.interactionMethod = static_cast<Integer>(method);
+      s.view.value["setup.rbtnMethod1"] = method == 1 ? 1 : 0;
+      s.view.value["setup.rbtnMethod2"] = method == 2 ? 1 : 0;
+      Recalculate(s);
+      return EventResult{};
+    });
   }
   const std::pair<const char*, int> classOptions[] = {{"rbtnSafetyNorwayClass1", 1},
                                                       {"rbtnSafetyNorwayClass24", 2},

@@ -18,16 +18,14 @@ std::vector<std::string> SplitTabs(const std::string& line) {
   size_t start = 0;
   for (;;) {
     size_t tab = line.find('\t', start);
-    fields.push_back(
-        line.substr(start, tab == std::string::npos ? std::string::npos : tab - start));
+    fields.push_back(line.substr(start, tab == std::string::npos ? std::string::npos : tab - start));
     if (tab == std::string::npos) return fields;
     start = tab + 1;
   }
 }
 
 // A strength column; a text that is no number leaves the column as it was.
-void ReadStrength(const std::vector<std::string>& fields, size_t i, bool decimalComma,
-                  Single& out) {
+void ReadStrength(const std::vector<std::string>& fields, size_t i, bool decimalComma, Single& out) {
   if (i >= fields.size()) return;  // a short line: the column stays 0
   bool mismatch = false, overflow = false;
   Single v = ParseNumber(fields[i], decimalComma, &mismatch, &overflow);

@@ -76,8 +76,8 @@ std::string CsvCell(const std::string& text) {
 
 }  // namespace
 
-bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold,
-                     const std::string& path, std::string* error) {
+bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
+                     std::string* error) {
   std::string temp;
   if (!ReserveTemp(path, &temp, error)) return false;
 
@@ -94,8 +94,7 @@ bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bo
   // The first column takes about a third of the table's width, as in the dialog.
   const double widths[kDetailColumns] = {24, 16, 10, 18};
   for (int c = 0; c < kDetailColumns; ++c)
-    worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c), widths[c],
-                         nullptr);
+    worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c), widths[c], nullptr);
 
   lxw_error failed = LXW_NO_ERROR;
   for (size_t r = 0; r < rows.size() && failed == LXW_NO_ERROR; ++r) {
@@ -129,8 +128,7 @@ std::string DetailCsvText(const std::vector<DetailRow>& rows) {
   return out;
 }
 
-bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path,
-                    std::string* error) {
+bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path, std::string* error) {
   std::string temp;
   if (!ReserveTemp(path, &temp, error)) return false;
   const std::string text = DetailCsvText(rows);

@@ -15,14 +15,13 @@ struct State;
 
 // One worksheet, the cells written as text strings as the grid shows them, empty cells left empty;
 // the header row and the group heads in bold. False with the reason in *error (naming the path).
-bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold,
-                     const std::string& path, std::string* error);
+bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
+                     std::string* error);
 
 // The rows as comma-separated text, UTF-8, CRLF line ends; a cell with a comma, a double quote or
 // a line break is quoted, its quotes doubled. Every row has its four cells, empty ones included.
 std::string DetailCsvText(const std::vector<DetailRow>& rows);
-bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path,
-                    std::string* error);
+bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path, std::string* error);
 
 // The grid of the More Results dialog (filled as on its Activate when it is still empty) to `path`:
 // CSV when the name ends in ".csv" (any case), else .xlsx. This is the State's `spreadsheet`.

@@ -22,9 +22,12 @@ QColor RestingColor() { return QColor(255, 255, 255); }
 
 // ---- FieldBinder ----
 
-FieldBinder::FieldBinder(Session* session, QLineEdit* edit, std::string name, bool numeric,
-                         Bindings* owner)
-    : QObject(edit), session_(session), edit_(edit), name_(std::move(name)), numeric_(numeric),
+FieldBinder::FieldBinder(Session* session, QLineEdit* edit, std::string name, bool numeric, Bindings* owner)
+    : QObject(edit),
+      session_(session),
+      edit_(edit),
+      name_(std::move(name)),
+      numeric_(numeric),
       owner_(owner) {
   edit->installEventFilter(this);
   setColour(RestingColor());
@@ -81,8 +84,7 @@ bool FieldBinder::eventFilter(QObject* watched, QEvent* event) {
           Qt::QueuedConnection);
       break;
     }
-    default:
-      break;
+    default: break;
   }
   return false;
 }
@@ -127,8 +129,7 @@ void FieldBinder::leave(bool byEnter) {
 
 // ---- Bindings ----
 
-Bindings::Bindings(Session* session, QWidget* window)
-    : QObject(window), session_(session), window_(window) {}
+Bindings::Bindings(Session* session, QWidget* window) : QObject(window), session_(session), window_(window) {}
 
 void Bindings::add(Kind kind, QWidget* w, const std::string& name, std::string group, int value) {
   if (w->objectName().isEmpty()) w->setObjectName(QString::fromStdString(name));
@@ -154,26 +155,22 @@ void Bindings::list(QComboBox* box, const std::string& name) {
 
 void Bindings::check(QCheckBox* box, const std::string& name) {
   add(Kind::Check, box, name);
-  connect(box, &QCheckBox::clicked, this, [this, box, name](bool on) {
-    session_->fireAndTell(box->window(), name, on ? "1" : "0");
-  });
+  connect(box, &QCheckBox::clicked, this,
+          [this, box, name](bool on) { session_->fireAndTell(box->window(), name, on ? "1" : "0"); });
 }
 
-void Bindings::option(QAbstractButton* button, const std::string& name, const std::string& group,
-                      int value) {
+void Bindings::option(QAbstractButton* button, const std::string& name, const std::string& group, int value) {
   button->setAutoExclusive(false);  // which one is set comes from the state alone
   button->setCheckable(true);
   add(Kind::Option, button, name, group, value);
-  connect(button, &QAbstractButton::clicked, this, [this, button, name] {
-    session_->fireAndTell(button->window(), name);
-  });
+  connect(button, &QAbstractButton::clicked, this,
+          [this, button, name] { session_->fireAndTell(button->window(), name); });
 }
 
 void Bindings::button(QAbstractButton* button, const std::string& name) {
   add(Kind::Button, button, name);
-  connect(button, &QAbstractButton::clicked, this, [this, button, name] {
-    session_->fireAndTell(button->window(), name);
-  });
+  connect(button, &QAbstractButton::clicked, this,
+          [this, button, name] { session_->fireAndTell(button->window(), name); });
 }
 
 void Bindings::label(QLabel* label, const std::string& name) { add(Kind::Label, label, name); }
@@ -202,8 +199,8 @@ QWidget* Bindings::widget(const std::string& name) const {
 
 QWidget* Bindings::firstField() const {
   for (const Entry& e : entries_)
-    if ((e.kind == Kind::Field || e.kind == Kind::Text) && e.widget &&
-        e.widget->isVisibleTo(window_) && e.widget->isEnabled())
+    if ((e.kind == Kind::Field || e.kind == Kind::Text) && e.widget && e.widget->isVisibleTo(window_) &&
+        e.widget->isEnabled())
       return e.widget;
   return nullptr;
 }
@@ -214,8 +211,8 @@ void Bindings::refresh() {
     QWidget* w = e.widget;
     if (!w) continue;
     if (auto it = v.visible.find(e.name); it != v.visible.end()) w->setVisible(it->second);
-    const bool input = e.kind != Kind::Label && e.kind != Kind::Frame && e.kind != Kind::Picture &&
-                       e.kind != Kind::Lines;
+    const bool input =
+        e.kind != Kind::Label && e.kind != Kind::Frame && e.kind != Kind::Picture && e.kind != Kind::Lines;
     bool enabled = input ? Session::knows(e.name) : true;
     auto en = v.enabled.find(e.name);
     if (en != v.enabled.end()) enabled = enabled && en->second;
@@ -294,9 +291,7 @@ void Bindings::refresh() {
         }
         break;
       }
-      case Kind::Picture:
-        w->update();
-        break;
+      case Kind::Picture: w->update(); break;
     }
   }
 }

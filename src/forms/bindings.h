@@ -40,8 +40,7 @@ class FieldBinder : public QObject {
 
  public:
   // `numeric` false: a free text field (no selection on focus, never refused).
-  FieldBinder(Session* session, QLineEdit* edit, std::string name, bool numeric,
-              class Bindings* owner);
+  FieldBinder(Session* session, QLineEdit* edit, std::string name, bool numeric, class Bindings* owner);
   QLineEdit* edit() const { return edit_; }
   const std::string& name() const { return name_; }
 
@@ -72,15 +71,14 @@ class Bindings : public QObject {
   void list(QComboBox* box, const std::string& name);
   void check(QCheckBox* box, const std::string& name);
   // An option button of a group: set while view.value[group] == value.
-  void option(QAbstractButton* button, const std::string& name, const std::string& group,
-              int value);
+  void option(QAbstractButton* button, const std::string& name, const std::string& group, int value);
   // A button; a caption in view.text replaces its own ("G", "Q1", "Q2" of a case button).
   void button(QAbstractButton* button, const std::string& name);
-  void label(QLabel* label, const std::string& name);        // text from view.text
+  void label(QLabel* label, const std::string& name);  // text from view.text
   // Visibility and enabled; a frame with a caption in view.text shows it as its title.
   void frame(QWidget* widget, const std::string& name);
-  void lines(QListWidget* list, const std::string& name);    // the lines of view.items, read only
-  void picture(PictureBox* box);                             // redrawn, fires its name on a click
+  void lines(QListWidget* list, const std::string& name);  // the lines of view.items, read only
+  void picture(PictureBox* box);                           // redrawn, fires its name on a click
 
   // The widget bound to a control name (the first one), or nullptr.
   QWidget* widget(const std::string& name) const;

@@ -3,17 +3,17 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QHeaderView>
-#include <QTableWidget>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <cmath>
@@ -192,7 +192,8 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   auto* safety = Group("Safety Class (EN 1990)", "setup.frSafetyClass");
   d->bindings()->frame(safety, d->key("frSafetyClass"));
   auto* scl = Inside<QHBoxLayout>(safety);
-  for (int c = 1; c <= 3; ++c) scl->addWidget(Option(d, "rbtnSafetyClass" + std::to_string(c), QString::number(c)));
+  for (int c = 1; c <= 3; ++c)
+    scl->addWidget(Option(d, "rbtnSafetyClass" + std::to_string(c), QString::number(c)));
   scl->addStretch();
   co->addWidget(safety);
   auto* psi = Group("EN 1990 - Psi factors for Q-loads", "setup.frPsi");
@@ -216,7 +217,8 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   ul->addWidget(new QLabel("ULS"), 1, 0);
   ul->addWidget(new QLabel("SLS"), 2, 0);
   for (int r = 0; r < 2; ++r)
-    for (int c = 0; c < 3; ++c) ul->addWidget(NumberField(d, fields[r][c], 48), r + 1, c + 1, Qt::AlignCenter);
+    for (int c = 0; c < 3; ++c)
+      ul->addWidget(NumberField(d, fields[r][c], 48), r + 1, c + 1, Qt::AlignCenter);
   ul->addWidget(Button(d, "cmdULS", "Partial factors..."), 3, 1, 1, 3, Qt::AlignRight);
   co->addWidget(uls);
   co->addStretch();
@@ -440,8 +442,9 @@ FormDialog* EndForceDialog(Session* s, QWidget* owner) {
   }
   g->setColumnMinimumWidth(2, 16);
   main->addWidget(frame);
-  main->addWidget(Note("End 1 at x = 0, end 2 at x = L. Positive My compresses the upper flange; "
-                       "the forces vary linearly between the ends."));
+  main->addWidget(
+      Note("End 1 at x = 0, end 2 at x = L. Positive My compresses the upper flange; "
+           "the forces vary linearly between the ends."));
   main->addLayout(Foot({}, d->closeButton()));
   return d;
 }
@@ -467,9 +470,8 @@ QIcon BucklingCaseIcon(int picture) {
 
 FormDialog* BucklingDialog(Session* s, QWidget* owner, bool yAxis) {
   const std::string form = yAxis ? "bucklingy" : "bucklingz";
-  auto* d = new FormDialog(s, form,
-                           yAxis ? "Buckling length factors - Y-axis" : "Buckling length factors - Z-axis",
-                           owner);
+  auto* d = new FormDialog(
+      s, form, yAxis ? "Buckling length factors - Y-axis" : "Buckling length factors - Z-axis", owner);
   auto* main = new QVBoxLayout(d);
   auto* row = new QHBoxLayout;
   const char* factors[5] = {"2.0", "1.0", "0.7", "0.5", "0.001"};
@@ -584,10 +586,10 @@ FormDialog* AboutDialog(Session* s, QWidget* owner) {
   auto* d = new FormDialog(s, "about", "About Varnelt - EC3", owner);
   auto* main = new QVBoxLayout(d);
   main->addWidget(ProgramTitle());
-  main->addWidget(new QLabel(
-      "Design of one steel member, beam or column, to Eurocode 3:\n"
-      "EN 1993-1-1 for members and sections, EN 1993-1-5 for plated parts,\n"
-      "EN 1990 for the combinations of loads, with a choice of national annexes."));
+  main->addWidget(
+      new QLabel("Design of one steel member, beam or column, to Eurocode 3:\n"
+                 "EN 1993-1-1 for members and sections, EN 1993-1-5 for plated parts,\n"
+                 "EN 1990 for the combinations of loads, with a choice of national annexes."));
   main->addSpacing(6);
   main->addLayout(Foot({}, d->closeButton()));
   return d;
@@ -610,11 +612,14 @@ FormDialog* PsiDialog(Session* s, QWidget* owner) {
       "<tr><td>Category C: congregation areas</td><td>0.7</td><td>0.7</td><td>0.6</td></tr>"
       "<tr><td>Category D: shopping areas</td><td>0.7</td><td>0.7</td><td>0.6</td></tr>"
       "<tr><td>Category E: storage areas</td><td>1.0</td><td>0.9</td><td>0.8</td></tr>"
-      "<tr><td>Category F: traffic area, vehicle weight &le; 30 kN</td><td>0.7</td><td>0.7</td><td>0.6</td></tr>"
-      "<tr><td>Category G: traffic area, 30 kN &lt; vehicle weight &le; 160 kN</td><td>0.7</td><td>0.5</td><td>0.3</td></tr>"
+      "<tr><td>Category F: traffic area, vehicle weight &le; 30 "
+      "kN</td><td>0.7</td><td>0.7</td><td>0.6</td></tr>"
+      "<tr><td>Category G: traffic area, 30 kN &lt; vehicle weight &le; 160 "
+      "kN</td><td>0.7</td><td>0.5</td><td>0.3</td></tr>"
       "<tr><td>Category H: roofs</td><td>0</td><td>0</td><td>0</td></tr>"
       "<tr><td>Snow loads: Finland, Iceland, Norway, Sweden</td><td>0.70</td><td>0.50</td><td>0.20</td></tr>"
-      "<tr><td>Snow loads elsewhere, site above 1000 m a.s.l.</td><td>0.70</td><td>0.50</td><td>0.20</td></tr>"
+      "<tr><td>Snow loads elsewhere, site above 1000 m "
+      "a.s.l.</td><td>0.70</td><td>0.50</td><td>0.20</td></tr>"
       "<tr><td>Snow loads elsewhere, site up to 1000 m a.s.l.</td><td>0.50</td><td>0.20</td><td>0</td></tr>"
       "<tr><td>Wind loads</td><td>0.6</td><td>0.2</td><td>0</td></tr>"
       "<tr><td>Temperature (non-fire)</td><td>0.6</td><td>0.5</td><td>0</td></tr>"
@@ -636,9 +641,10 @@ FormDialog* UlsDialog(Session* s, QWidget* owner) {
       "<tr><td>a)</td><td>1.3</td><td>1.3</td><td>0.7</td><td>1.0</td></tr>"
       "<tr><td>b)</td><td>1.0</td><td>1.0</td><td>1.3</td><td>1.0</td></tr>"
       "</table>"));
-  main->addWidget(Note("G permanent loads, Q variable functional loads, E environmental loads, "
-                       "D deformation loads.\nWhere a permanent load G causes a favourable load effect, "
-                       "its factor is 1.0 in combination a).\nSLS: all load factors 1.0."));
+  main->addWidget(
+      Note("G permanent loads, Q variable functional loads, E environmental loads, "
+           "D deformation loads.\nWhere a permanent load G causes a favourable load effect, "
+           "its factor is 1.0 in combination a).\nSLS: all load factors 1.0."));
   main->addLayout(Foot({}, d->closeButton()));
   return d;
 }
@@ -649,12 +655,13 @@ FormDialog* ProgramInfoDialog(Session* s, QWidget* owner) {
   auto* main = new QVBoxLayout(d);
   main->addWidget(ProgramTitle());
   const State& st = s->state();
-  main->addWidget(new QLabel(QString(
-      "Design of one steel member, beam or column, to EN 1993-1-1, EN 1993-1-5 and EN 1990.\n\n"
-      "Sections: 31 families, rolled, welded, hollow, angles, channels, plates and British tables.\n"
-      "Every input recalculates the member at once; the governing ratio, its formula and\n"
-      "its clause stand in the Results frame, the full set under More Results.\n\n"
-      "Profile tables, steel grades and setup are read from:\n%1").arg(QString::fromStdString(st.appPath))));
+  main->addWidget(new QLabel(
+      QString("Design of one steel member, beam or column, to EN 1993-1-1, EN 1993-1-5 and EN 1990.\n\n"
+              "Sections: 31 families, rolled, welded, hollow, angles, channels, plates and British tables.\n"
+              "Every input recalculates the member at once; the governing ratio, its formula and\n"
+              "its clause stand in the Results frame, the full set under More Results.\n\n"
+              "Profile tables, steel grades and setup are read from:\n%1")
+          .arg(QString::fromStdString(st.appPath))));
   main->addLayout(Foot({}, d->closeButton()));
   return d;
 }
@@ -777,8 +784,9 @@ FormDialog* LtbDialog(Session* s, QWidget* owner) {
   cg->addLayout(part, 5, 0, 1, 3);
   auto* only = Group("Only valid for loaded member and no restraints");
   auto* ol = Inside<QVBoxLayout>(only);
-  ol->addWidget(Note("This has only influence if you have loading on the beam and that  lateral "
-                     "restraint points = 0 (C2-factor)"));
+  ol->addWidget(
+      Note("This has only influence if you have loading on the beam and that  lateral "
+           "restraint points = 0 (C2-factor)"));
   cg->addWidget(only, 6, 0, 1, 3);
   cg->setColumnStretch(2, 1);
   main->addWidget(capacity, 0, 1, 4, 1);
@@ -810,9 +818,9 @@ FormDialog* DetailDialog(Session* s, QWidget* owner) {
     grid->horizontalHeader()->setStretchLastSection(true);
     for (int r = 0; r < 55; ++r) {
       for (int c = 0; c < 4; ++c) {
-        const std::string text =
-            r < static_cast<int>(v.detailGrid.size()) ? v.detailGrid[static_cast<size_t>(r)][static_cast<size_t>(c)]
-                                                      : std::string();
+        const std::string text = r < static_cast<int>(v.detailGrid.size())
+                                     ? v.detailGrid[static_cast<size_t>(r)][static_cast<size_t>(c)]
+                                     : std::string();
         QTableWidgetItem* item = grid->item(r, c);
         if (!item) {
           item = new QTableWidgetItem;
@@ -833,9 +841,9 @@ FormDialog* DetailDialog(Session* s, QWidget* owner) {
   exportButton->setObjectName("cmdDetailedResult");
   exportButton->setAutoDefault(false);
   QObject::connect(exportButton, &QPushButton::clicked, d, [d] {
-    const QString path = QFileDialog::getSaveFileName(
-        d, "Export", QString::fromStdString(d->session()->state().currentDir),
-        "Excel workbook (*.xlsx);;Comma-separated values (*.csv)");
+    const QString path =
+        QFileDialog::getSaveFileName(d, "Export", QString::fromStdString(d->session()->state().currentDir),
+                                     "Excel workbook (*.xlsx);;Comma-separated values (*.csv)");
     if (path.isEmpty()) return;
     d->session()->fireAndTell(d, d->key("cmdDetailedResult"), path.toStdString());
   });

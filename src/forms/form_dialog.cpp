@@ -14,7 +14,10 @@ namespace vn::forms {
 
 FormDialog::FormDialog(Session* session, std::string form, const QString& title, QWidget* owner,
                        std::string closeControl)
-    : QDialog(owner), session_(session), form_(std::move(form)), close_(std::move(closeControl)),
+    : QDialog(owner),
+      session_(session),
+      form_(std::move(form)),
+      close_(std::move(closeControl)),
       bindings_(new Bindings(session, this)) {
   setObjectName(QString::fromStdString(form_));
   setAttribute(Qt::WA_DeleteOnClose);

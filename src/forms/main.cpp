@@ -60,8 +60,7 @@ int main(int argc, char** argv) {
       return 0;
     } else if (a == "-style" || a == "-platform") {
       ++i;  // Qt's own options with a value
-    } else if (!a.empty() && a[0] == '-' && a.rfind("-style=", 0) != 0 &&
-               a.rfind("-platform=", 0) != 0) {
+    } else if (!a.empty() && a[0] == '-' && a.rfind("-style=", 0) != 0 && a.rfind("-platform=", 0) != 0) {
       std::fprintf(stderr, "varnelt: unknown option %s\n%s", a.c_str(), kUsage);
       return 2;
     } else if (!a.empty() && a[0] != '-') {
@@ -91,7 +90,8 @@ int main(int argc, char** argv) {
   vn::forms::MainForm form(&session);
 
   if (!projectPath.empty()) {
-    const std::string path = QDir::current().absoluteFilePath(QString::fromStdString(projectPath)).toStdString();
+    const std::string path =
+        QDir::current().absoluteFilePath(QString::fromStdString(projectPath)).toStdString();
     if (!vn::forms::Session::knows("mnuopen")) {
       std::fprintf(stderr, "varnelt: opening project files is not available in this build\n");
     } else {

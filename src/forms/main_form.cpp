@@ -18,9 +18,9 @@
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTextEdit>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -135,10 +135,12 @@ QString SummaryHtml(const View& v) {
   return html + QStringLiteral("</table>");
 }
 
-const char* const kSupportTips[6] = {
-    "Simply supported", "Pinned at x=0, fixed at x=L", "Fixed at both ends",
-    "Spring restraint at both ends", "Cantilever: fixed at x=0, free at x=L",
-    "Pinned at x=0, spring restraint at x=L"};
+const char* const kSupportTips[6] = {"Simply supported",
+                                     "Pinned at x=0, fixed at x=L",
+                                     "Fixed at both ends",
+                                     "Spring restraint at both ends",
+                                     "Cantilever: fixed at x=0, free at x=L",
+                                     "Pinned at x=0, spring restraint at x=L"};
 
 // Menu entries the form handles itself, whether or not the core has a control for them.
 bool FormHandles(const std::string& control) {
@@ -183,9 +185,7 @@ MainForm::MainForm(Session* session, QWidget* parent)
   refresh();
 }
 
-MainForm::~MainForm() {
-  qApp->removeEventFilter(this);
-}
+MainForm::~MainForm() { qApp->removeEventFilter(this); }
 
 QSize MainForm::startSize() const {
   QScreen* screen = this->screen() ? this->screen() : QGuiApplication::primaryScreen();
@@ -233,8 +233,7 @@ void MainForm::buildMenus() {
   actions_["mnurecentfile(0)"] = recentLine;
   recentLine->setVisible(false);
   for (int i = 1; i <= 4; ++i) {
-    QAction* a = addEntry(file, "mnurecentfile(" + std::to_string(i) + ")",
-                          QString("oldfile%1").arg(i));
+    QAction* a = addEntry(file, "mnurecentfile(" + std::to_string(i) + ")", QString("oldfile%1").arg(i));
     a->setVisible(false);
   }
   file->addSeparator()->setObjectName("mnuspace");
@@ -750,9 +749,9 @@ namespace {
 // The control of the main form that opens a dialog, as the person opens it.
 std::string OpenerOf(const std::string& dialog) {
   static const std::pair<const char*, const char*> openers[] = {
-      {"setup", "mnusetup"},         {"Loading", "mnuload1"},   {"endforce", "mnuendforces"},
+      {"setup", "mnusetup"},           {"Loading", "mnuload1"},         {"endforce", "mnuendforces"},
       {"bucklingy", "cbuttbucklingy"}, {"bucklingz", "cbuttbucklingz"}, {"chpoints", "cp"},
-      {"Modal_ns", "cmd_modresult"},   {"about", "mnuabout"},     {"endstiff", "cbuttsupport"},
+      {"Modal_ns", "cmd_modresult"},   {"about", "mnuabout"},           {"endstiff", "cbuttsupport"},
       {"vipping", "cbuttlateral"},     {"detailedresult", "CmdResult"}};
   for (const auto& [name, control] : openers)
     if (dialog == name) return control;
@@ -795,8 +794,10 @@ QWidget* MainForm::openDialog(const std::string& name) {
     return d;
   }
   std::string opener;
-  if (const ProfileEntry* e = ProfileOfDialog(name)) opener = e->menu;
-  else opener = OpenerOf(name);
+  if (const ProfileEntry* e = ProfileOfDialog(name))
+    opener = e->menu;
+  else
+    opener = OpenerOf(name);
   if (!opener.empty() && Session::knows(opener)) {
     session_->fireAndTell(this, opener);
     if (QWidget* d = dialog(name)) return d;

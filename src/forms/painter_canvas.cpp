@@ -74,8 +74,7 @@ void PainterCanvas::Polyline(const std::vector<Point>& points, const Pen& pen) {
   p_.drawPolyline(poly);
 }
 
-void PainterCanvas::Polygon(const std::vector<Point>& points, const Pen& pen,
-                            std::optional<Rgb> fill) {
+void PainterCanvas::Polygon(const std::vector<Point>& points, const Pen& pen, std::optional<Rgb> fill) {
   if (points.size() < 2) return;
   QPolygonF poly;
   for (const Point& u : points) poly << map(u);

@@ -18,10 +18,13 @@ class PainterCanvas : public draw::Canvas {
   void Clear(draw::Rgb background) override;
   void Line(draw::Point a, draw::Point b, const draw::Pen& pen) override;
   void Polyline(const std::vector<draw::Point>& points, const draw::Pen& pen) override;
-  void Polygon(const std::vector<draw::Point>& points, const draw::Pen& pen, std::optional<draw::Rgb> fill) override;
+  void Polygon(const std::vector<draw::Point>& points, const draw::Pen& pen,
+               std::optional<draw::Rgb> fill) override;
   void Rectangle(draw::Point a, draw::Point b, const draw::Pen& pen, std::optional<draw::Rgb> fill) override;
-  void Circle(draw::Point centre, double radius, const draw::Pen& pen, std::optional<draw::Rgb> fill) override;
-  void Text(draw::Point at, const std::string& text, const draw::Font& font, draw::HAlign h, draw::VAlign v) override;
+  void Circle(draw::Point centre, double radius, const draw::Pen& pen,
+              std::optional<draw::Rgb> fill) override;
+  void Text(draw::Point at, const std::string& text, const draw::Font& font, draw::HAlign h,
+            draw::VAlign v) override;
 
  private:
   QPointF map(draw::Point p) const;

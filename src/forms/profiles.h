@@ -6,11 +6,11 @@
 namespace vn::forms {
 
 struct ProfileEntry {
-  const char* menu;        // control of the menu entry
-  const char* caption;     // caption with its accelerator
-  int type;                // ProfileType of the family
-  const char* dialog;      // the family's dialog
-  bool separatorBefore;    // a separator stands before the entry
+  const char* menu;      // control of the menu entry
+  const char* caption;   // caption with its accelerator
+  int type;              // ProfileType of the family
+  const char* dialog;    // the family's dialog
+  bool separatorBefore;  // a separator stands before the entry
 };
 
 inline constexpr ProfileEntry kProfiles[] = {

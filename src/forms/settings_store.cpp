@@ -19,16 +19,16 @@ std::string PlatformSettingsStore::Get(const std::string& app, const std::string
   return settings.value(Q(key)).toString().toStdString();
 }
 
-void PlatformSettingsStore::Set(const std::string& app, const std::string& section,
-                                const std::string& key, const std::string& value) {
+void PlatformSettingsStore::Set(const std::string& app, const std::string& section, const std::string& key,
+                                const std::string& value) {
   QSettings settings(Q(app), Q(app));
   settings.beginGroup(Q(section));
   settings.setValue(Q(key), Q(value));
   settings.sync();
 }
 
-std::vector<std::pair<std::string, std::string>> PlatformSettingsStore::GetAll(
-    const std::string& app, const std::string& section) {
+std::vector<std::pair<std::string, std::string>> PlatformSettingsStore::GetAll(const std::string& app,
+                                                                               const std::string& section) {
   QSettings settings(Q(app), Q(app));
   settings.beginGroup(Q(section));
   QStringList keys = settings.childKeys();

@@ -14,18 +14,12 @@ void Replay(const Drawing& drawing, Canvas& c) {
       case K::Scale:
         if (p.size() == 2) c.SetScale(p[0].x, p[0].y, p[1].x, p[1].y);
         break;
-      case K::Clear:
-        c.Clear(d.fill.value_or(kWhite));
-        break;
+      case K::Clear: c.Clear(d.fill.value_or(kWhite)); break;
       case K::Line:
         if (p.size() == 2) c.Line(p[0], p[1], d.pen);
         break;
-      case K::Polyline:
-        c.Polyline(p, d.pen);
-        break;
-      case K::Polygon:
-        c.Polygon(p, d.pen, d.fill);
-        break;
+      case K::Polyline: c.Polyline(p, d.pen); break;
+      case K::Polygon: c.Polygon(p, d.pen, d.fill); break;
       case K::Rectangle:
         if (p.size() == 2) c.Rectangle(p[0], p[1], d.pen, d.fill);
         break;
@@ -73,8 +67,7 @@ void RecordingCanvas::Polyline(const std::vector<Point>& points, const Pen& pen)
   out_.commands.push_back(std::move(d));
 }
 
-void RecordingCanvas::Polygon(const std::vector<Point>& points, const Pen& pen,
-                              std::optional<Rgb> fill) {
+void RecordingCanvas::Polygon(const std::vector<Point>& points, const Pen& pen, std::optional<Rgb> fill) {
   DrawCommand d;
   d.kind = DrawCommand::Kind::Polygon;
   d.points = points;
@@ -102,8 +95,7 @@ void RecordingCanvas::Circle(Point centre, double radius, const Pen& pen, std::o
   out_.commands.push_back(std::move(d));
 }
 
-void RecordingCanvas::Text(Point at, const std::string& text, const Font& font, HAlign h,
-                           VAlign v) {
+void RecordingCanvas::Text(Point at, const std::string& text, const Font& font, HAlign h, VAlign v) {
   DrawCommand d;
   d.kind = DrawCommand::Kind::Text;
   d.points = {at};
@@ -200,14 +192,14 @@ void SvgCanvas::SetScale(double left, double top, double right, double bottom) {
 }
 
 void SvgCanvas::Clear(Rgb background) {
-  body_ = "<rect x=\"0\" y=\"0\" width=\"" + Num(map_.width) + "\" height=\"" + Num(map_.height) +
-          "\"" + Fill(background) + "/>\n";
+  body_ = "<rect x=\"0\" y=\"0\" width=\"" + Num(map_.width) + "\" height=\"" + Num(map_.height) + "\"" +
+          Fill(background) + "/>\n";
 }
 
 void SvgCanvas::Line(Point a, Point b, const Pen& pen) {
   Point p = map_.ToDevice(a), q = map_.ToDevice(b);
-  body_ += "<line x1=\"" + Num(p.x) + "\" y1=\"" + Num(p.y) + "\" x2=\"" + Num(q.x) + "\" y2=\"" +
-           Num(q.y) + "\"" + Stroke(pen) + "/>\n";
+  body_ += "<line x1=\"" + Num(p.x) + "\" y1=\"" + Num(p.y) + "\" x2=\"" + Num(q.x) + "\" y2=\"" + Num(q.y) +
+           "\"" + Stroke(pen) + "/>\n";
 }
 
 std::string SvgCanvas::PointsText(const std::vector<Point>& points) const {
@@ -239,27 +231,26 @@ void SvgCanvas::Rectangle(Point a, Point b, const Pen& pen, std::optional<Rgb> f
 
 void SvgCanvas::Circle(Point centre, double radius, const Pen& pen, std::optional<Rgb> fill) {
   Point c = map_.ToDevice(centre);
-  body_ += "<circle cx=\"" + Num(c.x) + "\" cy=\"" + Num(c.y) + "\" r=\"" +
-           Num(map_.XLength(radius)) + "\"" + Fill(fill) + Stroke(pen) + "/>\n";
+  body_ += "<circle cx=\"" + Num(c.x) + "\" cy=\"" + Num(c.y) + "\" r=\"" + Num(map_.XLength(radius)) + "\"" +
+           Fill(fill) + Stroke(pen) + "/>\n";
 }
 
 void SvgCanvas::Text(Point at, const std::string& text, const Font& font, HAlign h, VAlign v) {
   Point p = map_.ToDevice(at);
   const char* anchor = h == HAlign::Left ? "start" : h == HAlign::Center ? "middle" : "end";
   const char* baseline = v == VAlign::Top ? "hanging" : v == VAlign::Middle ? "central" : "text-after-edge";
-  body_ += "<text x=\"" + Num(p.x) + "\" y=\"" + Num(p.y) + "\" font-family=\"" +
-           Escape(font.family) + "\" font-size=\"" + Num(font.size * 96.0 / 72.0) + "\"";
+  body_ += "<text x=\"" + Num(p.x) + "\" y=\"" + Num(p.y) + "\" font-family=\"" + Escape(font.family) +
+           "\" font-size=\"" + Num(font.size * 96.0 / 72.0) + "\"";
   if (font.bold) body_ += " font-weight=\"bold\"";
   if (font.italic) body_ += " font-style=\"italic\"";
   body_ += std::string(" fill=\"") + Color(font.color) + "\" text-anchor=\"" + anchor +
-           "\" dominant-baseline=\"" + baseline + "\" xml:space=\"preserve\">" + Escape(text) +
-           "</text>\n";
+           "\" dominant-baseline=\"" + baseline + "\" xml:space=\"preserve\">" + Escape(text) + "</text>\n";
 }
 
 std::string SvgCanvas::Svg() const {
   return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + Num(map_.width) + "\" height=\"" +
-         Num(map_.height) + "\" viewBox=\"0 0 " + Num(map_.width) + " " + Num(map_.height) +
-         "\">\n" + body_ + "</svg>\n";
+         Num(map_.height) + "\" viewBox=\"0 0 " + Num(map_.width) + " " + Num(map_.height) + "\">\n" + body_ +
+         "</svg>\n";
 }
 
 }  // namespace vn::draw

@@ -70,8 +70,7 @@ class Canvas {
   virtual void Line(Point a, Point b, const Pen& pen) = 0;
   virtual void Polyline(const std::vector<Point>& points, const Pen& pen) = 0;
   // A closed outline, filled when `fill` is given.
-  virtual void Polygon(const std::vector<Point>& points, const Pen& pen,
-                       std::optional<Rgb> fill) = 0;
+  virtual void Polygon(const std::vector<Point>& points, const Pen& pen, std::optional<Rgb> fill) = 0;
   // The rectangle between two opposite corners.
   virtual void Rectangle(Point a, Point b, const Pen& pen, std::optional<Rgb> fill) = 0;
   // A round circle; the radius is in units of the x axis, as a picture's Circle takes it.

@@ -55,10 +55,10 @@ struct Diagrams {
 Diagrams Of(const State& s, ChartAxis axis) {
   const Analysis& a = s.analysis;
   if (axis == ChartAxis::Z)
-    return {a.MyGrid, a.VzGrid, a.dzGrid, a.MyMax,  a.MyMin,    a.MyMaxPos, a.MyMinPos,
-            a.VzMax,  a.VzMin,  a.VzMaxPos, a.VzMinPos, a.dzMax, a.dzMin, a.dzAbs};
-  return {a.MzGrid, a.VyGrid, a.dyGrid, a.MzMax,  a.MzMin,    a.MzMaxPos, a.MzMinPos,
-          a.VyMax,  a.VyMin,  a.VyMaxPos, a.VyMinPos, a.dyMax, a.dyMin, a.dyAbs};
+    return {a.MyGrid, a.VzGrid, a.dzGrid,   a.MyMax,    a.MyMin, a.MyMaxPos, a.MyMinPos,
+            a.VzMax,  a.VzMin,  a.VzMaxPos, a.VzMinPos, a.dzMax, a.dzMin,    a.dzAbs};
+  return {a.MzGrid, a.VyGrid, a.dyGrid,   a.MzMax,    a.MzMin, a.MzMaxPos, a.MzMinPos,
+          a.VyMax,  a.VyMin,  a.VyMaxPos, a.VyMinPos, a.dyMax, a.dyMin,    a.dyAbs};
 }
 
 double Larger(double a, double b) { return std::max(std::fabs(a), std::fabs(b)); }
@@ -98,7 +98,8 @@ void ValueAt(draw::Canvas& c, double xRel, double y, double base, const std::str
 void MomentBand(draw::Canvas& c, const State& s, const Diagrams& g, double base) {
   double Mabs = Larger(g.Mmin, g.Mmax);
   if (Mabs == 0) Mabs = 0.001;  // all zero: the curve lies flat
-  Band(c, base, [&](int i) { return -12.0 * g.M[static_cast<size_t>(i)] / Mabs; }, kMomentPen);
+  Band(
+      c, base, [&](int i) { return -12.0 * g.M[static_cast<size_t>(i)] / Mabs; }, kMomentPen);
   Mark(c, base, "M");
   auto extreme = [&](double value, double pos) {
     const double y = base + 12.0 * value / Mabs;
@@ -107,8 +108,8 @@ void MomentBand(draw::Canvas& c, const State& s, const Diagrams& g, double base)
       // The position of a peak inside the member, on the other side of the baseline.
       const bool above = y < base;
       c.Text({MemberX(pos), above ? base + 0.5 : base - 0.5},
-             "x=" + Fmt(s, pos * static_cast<double>(s.project.L), "#0.000 m"), ChartFont(),
-             AlongMember(pos), above ? VAlign::Top : VAlign::Bottom);
+             "x=" + Fmt(s, pos * static_cast<double>(s.project.L), "#0.000 m"), ChartFont(), AlongMember(pos),
+             above ? VAlign::Top : VAlign::Bottom);
     }
   };
   if (g.Mmax != 0 || g.Mmin == 0) extreme(g.Mmax, g.MmaxPos);
@@ -118,24 +119,23 @@ void MomentBand(draw::Canvas& c, const State& s, const Diagrams& g, double base)
 // The shear band: height 12 V / Vabs, positive upwards, with 0.0001 as the smallest divisor.
 void ShearBand(draw::Canvas& c, const State& s, const Diagrams& g, double base) {
   const double Vabs = std::max(Larger(g.Vmin, g.Vmax), 0.0001);
-  Band(c, base, [&](int i) { return 12.0 * g.V[static_cast<size_t>(i)] / Vabs; }, kThin);
+  Band(
+      c, base, [&](int i) { return 12.0 * g.V[static_cast<size_t>(i)] / Vabs; }, kThin);
   Mark(c, base, "V");
   if (g.Vmax != 0 || g.Vmin == 0)
     ValueAt(c, g.VmaxPos, base - 12.0 * g.Vmax / Vabs, base, Fmt(s, g.Vmax, "#0.0"));
-  if (g.Vmin != 0)
-    ValueAt(c, g.VminPos, base - 12.0 * g.Vmin / Vabs, base, Fmt(s, g.Vmin, "#0.0"));
+  if (g.Vmin != 0) ValueAt(c, g.VminPos, base - 12.0 * g.Vmin / Vabs, base, Fmt(s, g.Vmin, "#0.0"));
 }
 
 // The deflection band: height -10 d / dabs, and the largest deflection as a ratio of the span.
-void DeflectionBand(draw::Canvas& c, const State& s, const Diagrams& g, double base,
-                    double labelY) {
+void DeflectionBand(draw::Canvas& c, const State& s, const Diagrams& g, double base, double labelY) {
   const double dabs = g.dabs != 0 ? std::fabs(g.dabs) : 0.0001;
-  Band(c, base, [&](int i) { return -10.0 * g.d[static_cast<size_t>(i)] / dabs; }, kThin);
+  Band(
+      c, base, [&](int i) { return -10.0 * g.d[static_cast<size_t>(i)] / dabs; }, kThin);
   // The deflection that governs, with its sign: the larger of the maximum and the minimum.
   const double d = g.dmax > std::fabs(g.dmin) ? g.dmax : g.dmin;
   std::string text = "Deflection: " + Fmt(s, d, "#0.0") + " mm";
-  if (d != 0)
-    text += "  = l/" + Fmt(s, static_cast<double>(s.project.L) * 1000 / std::fabs(d), "#0");
+  if (d != 0) text += "  = l/" + Fmt(s, static_cast<double>(s.project.L) * 1000 / std::fabs(d), "#0");
   c.Text({50, labelY}, text, ChartFont(), HAlign::Center, VAlign::Bottom);
 }
 
@@ -184,9 +184,9 @@ void MomentSymbol(draw::Canvas& c, Point at, double r, bool positive, const Pen&
   Arrow(c, before, end, pen, 2);
 }
 
-constexpr double kMemberY = 54;   // the member on the load charts
-constexpr double kLoadTop = 22;   // the tail of a point force's arrow
-constexpr double kBlock = 14;     // height of the largest distributed load
+constexpr double kMemberY = 54;  // the member on the load charts
+constexpr double kLoadTop = 22;  // the tail of a point force's arrow
+constexpr double kBlock = 14;    // height of the largest distributed load
 
 void AxialArrow(draw::Canvas& c, double N, double y) {
   if (N == 0) return;
@@ -346,16 +346,14 @@ void DrawLoadChart(draw::Canvas& c, const State& s, ChartAxis axis) {
   const double Nsum = N[0] + N[1] + N[2];
   AxialArrow(c, Nsum, kMemberY);
   const std::string axial = CaseSums(s, N);
-  if (!axial.empty())
-    c.Text({1, 99}, "Axial Load: " + axial, ChartFont(), HAlign::Left, VAlign::Bottom);
+  if (!axial.empty()) c.Text({1, 99}, "Axial Load: " + axial, ChartFont(), HAlign::Left, VAlign::Bottom);
 }
 
 void DrawResultChart(draw::Canvas& c, const State& s, ChartAxis axis) {
   c.Clear(draw::kWhite);
   c.SetScale(0, 0, 100, 100);
   const Diagrams g = Of(s, axis);
-  c.Text({50, 1},
-         axis == ChartAxis::Z ? "My/Vz/Deflection (kNm/kN/mm)" : "Mz/Vy/Deflection (kNm/kN/mm)",
+  c.Text({50, 1}, axis == ChartAxis::Z ? "My/Vz/Deflection (kNm/kN/mm)" : "Mz/Vy/Deflection (kNm/kN/mm)",
          ChartFont(true), HAlign::Center, VAlign::Top);
   MomentBand(c, s, g, 25);
   ShearBand(c, s, g, 55);
@@ -366,8 +364,7 @@ void DrawEndForceLoadChart(draw::Canvas& c, const State& s) {
   c.Clear(draw::kWhite);
   c.SetScale(0, 0, 100, 100);
   const double N = s.project.NEndForce;
-  c.Text({1, 1}, " Axial force (kN) " + Fmt(s, N, "#0.0"), ChartFont(true), HAlign::Left,
-         VAlign::Top);
+  c.Text({1, 1}, " Axial force (kN) " + Fmt(s, N, "#0.0"), ChartFont(true), HAlign::Left, VAlign::Top);
   c.Line({kChartLeft, kMemberY}, {kChartRight, kMemberY}, kMember);
   if (N != 0) {
     // The same force at both ends: pushing in under compression, pulling out under tension.
@@ -387,17 +384,18 @@ void DrawEndForceResultChart(draw::Canvas& c, const State& s, ChartAxis axis) {
   const bool z = axis == ChartAxis::Z;
   c.Text({50, 1}, z ? "Bending moment (My, kNm)" : "Bending moment (Mz, kNm)", ChartFont(true),
          HAlign::Center, VAlign::Top);
-  c.Text({50, 51}, z ? "Shear (Vz, kN)" : "Shear (Vy, kN)", ChartFont(true), HAlign::Center,
-         VAlign::Top);
+  c.Text({50, 51}, z ? "Shear (Vz, kN)" : "Shear (Vy, kN)", ChartFont(true), HAlign::Center, VAlign::Top);
 
   // Straight diagrams between the end values, which are written at the ends.
   double Mabs = Larger(g.Mmin, g.Mmax);
   if (Mabs == 0) Mabs = 0.001;
   const double mBase = 28, vBase = 77;
-  Band(c, mBase, [&](int i) { return -12.0 * g.M[static_cast<size_t>(i)] / Mabs; }, kMomentPen);
+  Band(
+      c, mBase, [&](int i) { return -12.0 * g.M[static_cast<size_t>(i)] / Mabs; }, kMomentPen);
   Mark(c, mBase, "M");
   const double Vabs = std::max(Larger(g.Vmin, g.Vmax), 0.0001);
-  Band(c, vBase, [&](int i) { return 12.0 * g.V[static_cast<size_t>(i)] / Vabs; }, kThin);
+  Band(
+      c, vBase, [&](int i) { return 12.0 * g.V[static_cast<size_t>(i)] / Vabs; }, kThin);
   Mark(c, vBase, "V");
   for (int end : {0, 50}) {
     const double xRel = end / 50.0;
@@ -418,8 +416,8 @@ std::optional<std::string> ChartReadout(const State& s, std::string_view picture
   const double M = my ? a.MyGrid[static_cast<size_t>(i)] : a.MzGrid[static_cast<size_t>(i)];
   const double V = my ? a.VzGrid[static_cast<size_t>(i)] : a.VyGrid[static_cast<size_t>(i)];
   // The shear carries "kNm" in this tip, as a fixed text.
-  return " x = " + Fmt(s, position, "0.000 m") + (my ? "  My = " : "  Mz = ") +
-         Fmt(s, M, "0.0 kNm") + (my ? "  Vz = " : "  Vy = ") + Fmt(s, V, "0.0 kNm") + " ";
+  return " x = " + Fmt(s, position, "0.000 m") + (my ? "  My = " : "  Mz = ") + Fmt(s, M, "0.0 kNm") +
+         (my ? "  Vz = " : "  Vy = ") + Fmt(s, V, "0.0 kNm") + " ";
 }
 
 void DrawCharts(State& s) {

@@ -43,9 +43,7 @@ bool Between(int type, int lo, int hi) { return type >= lo && type <= hi; }
 bool LtbFamily(int type) {
   return Between(type, 1, 5) || In(type, {15, 16, 21, 22, 28, 41}) || Between(type, 101, 103);
 }
-bool NoLtbFamily(int type) {
-  return Between(type, 6, 13) || Between(type, 23, 27) || type == 31;
-}
+bool NoLtbFamily(int type) { return Between(type, 6, 13) || Between(type, 23, 27) || type == 31; }
 bool PlateFamily(int type) { return Between(type, 51, 56); }
 
 void Record(State& s, const char* name, void (*draw)(draw::Canvas&, const State&)) {
@@ -91,8 +89,8 @@ void DrawMemberSymbol(draw::Canvas& c, const State& s) {
     if (end == EndKind::Spring) c.Text({x1 + 4, y - 1}, spring, SmallFont(), HAlign::Left, VAlign::Bottom);
   }
 
-  c.Text({50, 17.5}, "L = " + FormatNumber(p.L, "#0.000", s.decimalComma) + " m", SmallFont(),
-         HAlign::Center, VAlign::Bottom);
+  c.Text({50, 17.5}, "L = " + FormatNumber(p.L, "#0.000", s.decimalComma) + " m", SmallFont(), HAlign::Center,
+         VAlign::Bottom);
 }
 
 void DrawLoadLevelPicture(draw::Canvas& c, int loadLevel, bool singleSymmetric) {
@@ -202,8 +200,8 @@ void UpdateMainFormState(State& s) {
   v.text["zaa"] = "Za = " + FormatNumber(p.ltbZa, "#0", dc) + " mm";
 
   // 7. Web stiffeners and end posts only where the family's shear control reads them.
-  if (Between(type, 1, 4) || Between(type, 6, 9) || type == 15 || Between(type, 21, 25) ||
-      type == 27 || type == 101 || type == 102) {
+  if (Between(type, 1, 4) || Between(type, 6, 9) || type == 15 || Between(type, 21, 25) || type == 27 ||
+      type == 101 || type == 102) {
     v.visible["cbuttsupport"] = true;
   } else if (In(type, {5, 10, 11, 16, 26, 28, 31, 41, 103})) {
     v.visible["cbuttsupport"] = false;

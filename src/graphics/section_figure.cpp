@@ -87,8 +87,7 @@ constexpr double kPi = 3.14159265358979;
 // ---- The families' stock pictures, centred on (50, 50) with y upwards ----
 
 // An I of height h and width b; tapered flanges slope the inner faces.
-void StockI(draw::Canvas& c, double b, double bBottom, double h, bool tapered, bool letters,
-            bool unequal) {
+void StockI(draw::Canvas& c, double b, double bBottom, double h, bool tapered, bool letters, bool unequal) {
   const double top = 50 + h / 2, bot = 50 - h / 2, tw = 5, tf = 7;
   const double xt0 = 50 - b / 2, xt1 = 50 + b / 2, xb0 = 50 - bBottom / 2, xb1 = 50 + bBottom / 2;
   const double taper = tapered ? 2.5 : 0;
@@ -203,8 +202,14 @@ void StockHsq(draw::Canvas& c, bool symmetric, bool inset, bool letters) {
 
 void StockTee(draw::Canvas& c, bool letters) {
   const double h = 64, b = 60, t = 7, top = 50 + h / 2, bot = 50 - h / 2;
-  Shape(c, {{50 - t / 2, bot}, {50 + t / 2, bot}, {50 + t / 2, top - t}, {50 + b / 2, top - t},
-            {50 + b / 2, top}, {50 - b / 2, top}, {50 - b / 2, top - t}, {50 - t / 2, top - t}});
+  Shape(c, {{50 - t / 2, bot},
+            {50 + t / 2, bot},
+            {50 + t / 2, top - t},
+            {50 + b / 2, top - t},
+            {50 + b / 2, top},
+            {50 - b / 2, top},
+            {50 - b / 2, top - t},
+            {50 - t / 2, top - t}});
   if (!letters) return;
   DimV(c, 50 - b / 2 - 5, bot, top, "h");
   DimH(c, top + 4, 50 - b / 2, 50 + b / 2, "b");
@@ -235,14 +240,16 @@ void StockPlate(draw::Canvas& c, int type, bool letters) {
   const double wx = 50 - tw / 2;
   double flange = 0;
   switch (type) {
-    case 51:
-      Box(c, wx, foot, wx + tw, plateBot);
-      break;
+    case 51: Box(c, wx, foot, wx + tw, plateBot); break;
     case 52:
     case 53:
       flange = 22;
-      Shape(c, {{wx, foot}, {wx + flange, foot}, {wx + flange, foot + 5}, {wx + tw, foot + 5},
-                {wx + tw, plateBot}, {wx, plateBot}});
+      Shape(c, {{wx, foot},
+                {wx + flange, foot},
+                {wx + flange, foot + 5},
+                {wx + tw, foot + 5},
+                {wx + tw, plateBot},
+                {wx, plateBot}});
       break;
     case 54: {
       std::vector<Point> p{{wx, plateBot}, {wx, foot}};
@@ -297,8 +304,7 @@ void DrawRectSection(draw::Canvas& c, const Section& sec, int type, double unit)
   auto label = [&](int rect, const char* letter, bool above) {
     const Point a = At(sec, 2 * rect - 1), b = At(sec, 2 * rect);
     const double y = above ? std::max(a.y, b.y) + unit : std::min(a.y, b.y) - unit;
-    c.Text({(a.x + b.x) / 2, y}, letter, LetterFont(), HAlign::Center,
-           above ? VAlign::Bottom : VAlign::Top);
+    c.Text({(a.x + b.x) / 2, y}, letter, LetterFont(), HAlign::Center, above ? VAlign::Bottom : VAlign::Top);
   };
   if (type >= 51 && type <= 56) {
     label(1, "B", true);
@@ -325,16 +331,14 @@ void DrawRoundSection(draw::Canvas& c, const Section& sec) {
   if (sec.tw > 0 && sec.tw < D / 2) c.Circle({D / 2, D / 2}, D / 2 - sec.tw, kEdge, draw::kWhite);
 }
 
-bool IsRectFamily(int type) {
-  return (type >= 22 && type <= 27) || (type >= 51 && type <= 56);
-}
+bool IsRectFamily(int type) { return (type >= 22 && type <= 27) || (type >= 51 && type <= 56); }
 
 }  // namespace
 
 std::string SectionFigureBox(int type) {
-  const bool known = (type >= 1 && type <= 11) || type == 15 || type == 16 ||
-                     (type >= 21 && type <= 28) || type == 31 || type == 41 ||
-                     (type >= 51 && type <= 56 && type != 55) || (type >= 101 && type <= 103);
+  const bool known = (type >= 1 && type <= 11) || type == 15 || type == 16 || (type >= 21 && type <= 28) ||
+                     type == 31 || type == 41 || (type >= 51 && type <= 56 && type != 55) ||
+                     (type >= 101 && type <= 103);
   if (!known) return {};
   const std::string number = type < 10 ? "0" + std::to_string(type) : std::to_string(type);
   return "p" + number + ".pic1";
@@ -345,45 +349,33 @@ void DrawStockSection(draw::Canvas& c, const State& s, int type, bool letters) {
   c.Clear(draw::kWhite);
   c.SetScale(0, 100, 100, 0);
   switch (type) {
-    case 1: case 2: case 3: case 21:  // broad flanges
+    case 1:
+    case 2:
+    case 3:
+    case 21:  // broad flanges
       StockI(c, 64, 64, 70, false, letters, false);
       break;
-    case 4:
-      StockI(c, 40, 40, 70, false, letters, false);
-      break;
-    case 15:
-      StockI(c, 36, 36, 70, true, letters, false);
-      break;
+    case 4: StockI(c, 40, 40, 70, false, letters, false); break;
+    case 15: StockI(c, 36, 36, 70, true, letters, false); break;
     case 101: {
       const bool broad = p.subFamily101 == 2 || p.subFamily101 == 3;
       StockI(c, broad ? 64 : 40, broad ? 64 : 40, 70, false, letters, false);
       break;
     }
-    case 102:
-      StockI(c, 36, 36, 70, true, letters, false);
-      break;
+    case 102: StockI(c, 36, 36, 70, true, letters, false); break;
     case 22:
       if (WiderFirst(s))
         StockI(c, 64, 40, 70, false, letters, true);
       else
         StockI(c, 40, 64, 70, false, letters, true);
       break;
-    case 5:
-      StockChannel(c, false, letters);
-      break;
-    case 16:
-      StockChannel(c, true, letters);
-      break;
-    case 103:
-      StockChannel(c, p.subFamily103 == 2, letters);
-      break;
-    case 6:
-      StockHollow(c, 60, 60, 6, 9, letters);
-      break;
-    case 8:
-      StockHollow(c, 60, 60, 6, 14, letters);
-      break;
-    case 7: case 9: {
+    case 5: StockChannel(c, false, letters); break;
+    case 16: StockChannel(c, true, letters); break;
+    case 103: StockChannel(c, p.subFamily103 == 2, letters); break;
+    case 6: StockHollow(c, 60, 60, 6, 9, letters); break;
+    case 8: StockHollow(c, 60, 60, 6, 14, letters); break;
+    case 7:
+    case 9: {
       const double r = type == 7 ? 9 : 14;
       if (p.rhsTurned == 1)
         StockHollow(c, 42, 70, 6, r, letters);
@@ -391,33 +383,21 @@ void DrawStockSection(draw::Canvas& c, const State& s, int type, bool letters) {
         StockHollow(c, 70, 42, 6, r, letters);
       break;
     }
-    case 10:
-      StockAngle(c, 64, letters);
-      break;
-    case 11:
-      StockAngle(c, 40, letters);
-      break;
-    case 23:
-      StockBox(c, 70, 70, p.p23.oweld != 0, letters, false);
-      break;
-    case 27:
-      StockBox(c, 56, 76, false, letters, true);
-      break;
-    case 24: case 25:
-      StockHsq(c, type == 24, p.hsqKind != 0, letters);
-      break;
-    case 26:
-      StockTee(c, letters);
-      break;
-    case 28:
-      StockFlatBar(c, letters);
-      break;
-    case 31:
-      StockTube(c, letters);
-      break;
-    case 51: case 52: case 53: case 54: case 55: case 56:
-      StockPlate(c, type, letters);
-      break;
+    case 10: StockAngle(c, 64, letters); break;
+    case 11: StockAngle(c, 40, letters); break;
+    case 23: StockBox(c, 70, 70, p.p23.oweld != 0, letters, false); break;
+    case 27: StockBox(c, 56, 76, false, letters, true); break;
+    case 24:
+    case 25: StockHsq(c, type == 24, p.hsqKind != 0, letters); break;
+    case 26: StockTee(c, letters); break;
+    case 28: StockFlatBar(c, letters); break;
+    case 31: StockTube(c, letters); break;
+    case 51:
+    case 52:
+    case 53:
+    case 54:
+    case 55:
+    case 56: StockPlate(c, type, letters); break;
     default: {
       Font f;
       f.family = "Arial";

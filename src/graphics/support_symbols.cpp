@@ -56,7 +56,8 @@ void Coil(draw::Canvas& c, draw::Point at, double size, const draw::Pen& pen, bo
 
 }  // namespace
 
-void DrawSupportEnd(draw::Canvas& c, draw::Point at, EndKind kind, bool rightEnd, double size, const draw::Pen& pen) {
+void DrawSupportEnd(draw::Canvas& c, draw::Point at, EndKind kind, bool rightEnd, double size,
+                    const draw::Pen& pen) {
   switch (kind) {
     case EndKind::Pinned: Hinge(c, at, size, pen, false); break;
     case EndKind::Roller: Hinge(c, at, size, pen, true); break;
@@ -122,9 +123,18 @@ void DrawBucklingCaseIcon(draw::Canvas& c, int picture) {
   }
   switch (picture) {
     case 1: FixedAcross(c, {x, foot}, true, pen); break;
-    case 2: HingeAt(c, {x, foot}, true, pen); HingeAt(c, {x, top}, false, pen); break;
-    case 3: FixedAcross(c, {x, foot}, true, pen); HingeAt(c, {x, top}, false, pen); break;
-    case 4: FixedAcross(c, {x, foot}, true, pen); FixedAcross(c, {x, top}, false, pen); break;
+    case 2:
+      HingeAt(c, {x, foot}, true, pen);
+      HingeAt(c, {x, top}, false, pen);
+      break;
+    case 3:
+      FixedAcross(c, {x, foot}, true, pen);
+      HingeAt(c, {x, top}, false, pen);
+      break;
+    case 4:
+      FixedAcross(c, {x, foot}, true, pen);
+      FixedAcross(c, {x, top}, false, pen);
+      break;
     case 5:
       // Held all along its length.
       for (double y = top; y <= foot + 1e-9; y += 7) c.Line({x - 6, y}, {x, y}, pen);

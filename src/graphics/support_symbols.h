@@ -16,7 +16,8 @@ std::pair<EndKind, EndKind> SupportEnds(int supportType);
 
 // One end support at the member's end `at`, drawn `size` units high (units equal in x and y); the
 // fixed wall and the spring face away from the member, to the left at x = 0, to the right at x = L.
-void DrawSupportEnd(draw::Canvas& c, draw::Point at, EndKind kind, bool rightEnd, double size, const draw::Pen& pen);
+void DrawSupportEnd(draw::Canvas& c, draw::Point at, EndKind kind, bool rightEnd, double size,
+                    const draw::Pen& pen);
 
 // The picture of an option button: the member and its two ends on a scale of 0..100 by 0..50.
 void DrawSupportIcon(draw::Canvas& c, int supportType);

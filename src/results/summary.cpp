@@ -14,9 +14,8 @@ namespace {
 
 // The families with a buckling block: all but HSQ (24, 25) and the box with unequal flanges (27).
 bool HasBucklingBlock(int type) {
-  return (type >= 1 && type <= 16) || type == 21 || type == 22 || type == 23 || type == 26 ||
-         type == 28 || type == 31 || type == 41 || (type >= 51 && type <= 56) ||
-         (type >= 101 && type <= 103);
+  return (type >= 1 && type <= 16) || type == 21 || type == 22 || type == 23 || type == 26 || type == 28 ||
+         type == 31 || type == 41 || (type >= 51 && type <= 56) || (type >= 101 && type <= 103);
 }
 
 SummaryLine Title(std::string text, std::string note = {}) {
@@ -27,8 +26,7 @@ SummaryLine Title(std::string text, std::string note = {}) {
   return l;
 }
 
-SummaryLine Control(std::string left, const ControlText& t, Integer colour,
-                    std::string limitTail = {}) {
+SummaryLine Control(std::string left, const ControlText& t, Integer colour, std::string limitTail = {}) {
   SummaryLine l;
   l.left = std::move(left);
   l.ratio = t.Ratio;
@@ -63,18 +61,12 @@ std::string GoverningLoadcaseText(const State& s) {
     return "EN1990 " + uls + " " + (sls ? " / EN1990 " + c.textSLS : std::string());
   };
   switch (p.LoadCombMode) {
-    case 0:
-      return en1990(c.text610);
-    case 1:
-      return en1990(c.text610a);
-    case 2:
-      return en1990(c.text610b);
-    case 3:
-      return en1990(s.analysis.GoverningEquation == 1 ? c.text610a : c.text610b);
-    case 4:
-      return c.textULSUser + (sls ? " / " + c.textSLSUser : std::string());
-    case 5:
-      return c.textBasic;
+    case 0: return en1990(c.text610);
+    case 1: return en1990(c.text610a);
+    case 2: return en1990(c.text610b);
+    case 3: return en1990(s.analysis.GoverningEquation == 1 ? c.text610a : c.text610b);
+    case 4: return c.textULSUser + (sls ? " / " + c.textSLSUser : std::string());
+    case 5: return c.textBasic;
   }
   return {};
 }
@@ -104,8 +96,8 @@ void ShowControls(State& s) {
     const Integer colours[3] = {k.colBuckY, k.colBuckZ, k.colLT};
     if (std::any_of(std::begin(texts), std::end(texts),
                     [](const ControlText* t) { return !t->Formula.empty(); })) {
-      out.push_back(Title("BUCKLING CONTROL:",
-                          p.ltbOn != 0 ? " (incl Lateral Torsional Buckling)" : std::string()));
+      out.push_back(
+          Title("BUCKLING CONTROL:", p.ltbOn != 0 ? " (incl Lateral Torsional Buckling)" : std::string()));
       for (int i = 0; i < 3; ++i) {
         const ControlText& t = *texts[i];
         if (t.Formula.empty()) continue;
@@ -118,14 +110,13 @@ void ShowControls(State& s) {
 
   // Deflection block, a serviceability check outside IRsection and IRbuckling.
   if (p.checkSLS != 0 && (!an.deflTextZ.Formula.empty() || !an.deflTextY.Formula.empty())) {
-    out.push_back(Title("DEFLECTION CONTROL:",
-                        " (L/" + FormatNumber(p.deflectionLimit, "0", s.decimalComma) + ")"));
+    out.push_back(
+        Title("DEFLECTION CONTROL:", " (L/" + FormatNumber(p.deflectionLimit, "0", s.decimalComma) + ")"));
     if (!an.deflTextZ.Formula.empty())
-      out.push_back(Control(an.deflTextZ.Formula + an.deflTextZ.Numbers, an.deflTextZ, an.colDeflZ,
-                            "      "));
-    if (!an.deflTextY.Formula.empty())
       out.push_back(
-          Control(an.deflTextY.Formula + an.deflTextY.Numbers, an.deflTextY, an.colDeflY));
+          Control(an.deflTextZ.Formula + an.deflTextZ.Numbers, an.deflTextZ, an.colDeflZ, "      "));
+    if (!an.deflTextY.Formula.empty())
+      out.push_back(Control(an.deflTextY.Formula + an.deflTextY.Numbers, an.deflTextY, an.colDeflY));
   }
 }
 
@@ -170,8 +161,7 @@ std::string SummaryText(const State& s) {
       } else {
         std::string mark = Mark(l.colour);
         mark.resize(std::max(mark.size(), markWidth), ' ');
-        text =
-            l.left + std::string(width - l.left.size() + 2, ' ') + l.ratio + " " + mark + l.limit;
+        text = l.left + std::string(width - l.left.size() + 2, ' ') + l.ratio + " " + mark + l.limit;
       }
       out += TrimRight(text) + "\n";
     }

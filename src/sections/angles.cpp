@@ -70,16 +70,15 @@ void FibreModuli(State& s) {
 void AngleName(State& s) {
   const Section& c = s.section;
   const bool comma = s.decimalComma;
-  SetSectionName(s, s.project.ProfileType,
-                 "L " + SingleText(c.h, comma) + "x" + SingleText(c.b, comma) + "x" +
-                     SingleText(c.tw, comma));
+  SetSectionName(
+      s, s.project.ProfileType,
+      "L " + SingleText(c.h, comma) + "x" + SingleText(c.b, comma) + "x" + SingleText(c.tw, comma));
 }
 
 // rho of an outstand leg under compression (EN 1993-1-5 4.4, k-sigma 0.43).
 double LegRho(const State& s, double outstand) {
   const Project& p = s.project;
-  const Single lamdaP =
-      ToSingle(Div(Div(outstand, s.section.tw), 28.4 * p.epsilon * Sqrt(0.43)));
+  const Single lamdaP = ToSingle(Div(Div(outstand, s.section.tw), 28.4 * p.epsilon * Sqrt(0.43)));
   double rho = 1;
   if (lamdaP > 0.748) rho = Div(lamdaP - 0.188, static_cast<double>(lamdaP) * lamdaP);
   if (p.noFlangeBuckling != 0) rho = 1;

@@ -25,10 +25,8 @@ void BoxProperties(State& s) {
   const double h = c.h, b = c.b, tw = c.tw, tf = c.tf, a = c.hweb;
 
   // 1. Upper flange, left web, right web, lower flange.
-  const std::array<Plate, 4> plates{{{b, tf, 0, h - tf},
-                                     {tw, h - 2 * tf, a, tf},
-                                     {tw, h - 2 * tf, b - a - tw, tf},
-                                     {b, tf, 0, 0}}};
+  const std::array<Plate, 4> plates{
+      {{b, tf, 0, h - tf}, {tw, h - 2 * tf, a, tf}, {tw, h - 2 * tf, b - a - tw, tf}, {b, tf, 0, 0}}};
   const PlateSums sum = PlateTable(c, plates);
 
   // 2. The nominal weld stands for the corner radius.

@@ -33,8 +33,7 @@ void BritishITable(State& s, CatalogueId id) {
   c.Iw = Scaled(s, id, 19, 1e9);
   c.IzDefl = c.Iz;
 
-  SetSectionName(s, s.project.ProfileType,
-                 CatalogueListText(s.catalogues, id, SelectedRowOf(s, id)));
+  SetSectionName(s, s.project.ProfileType, CatalogueListText(s.catalogues, id, SelectedRowOf(s, id)));
 
   const double h = c.h, b = c.b, tf = c.tf, tw = c.tw, r = c.r;
   c.Af = ToSingle(2 * b * tf);

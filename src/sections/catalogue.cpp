@@ -67,10 +67,9 @@ void ReadCatalogue(Catalogue& t, CatalogueId id, const std::string& dir) {
     for (int col = 1; col <= s.cols; ++col) {
       unsigned char bytes[4];
       if (!in.read(reinterpret_cast<char*>(bytes), 4)) return;  // short file: zeros beyond
-      std::uint32_t bits = static_cast<std::uint32_t>(bytes[0]) |
-                           (static_cast<std::uint32_t>(bytes[1]) << 8) |
-                           (static_cast<std::uint32_t>(bytes[2]) << 16) |
-                           (static_cast<std::uint32_t>(bytes[3]) << 24);
+      std::uint32_t bits =
+          static_cast<std::uint32_t>(bytes[0]) | (static_cast<std::uint32_t>(bytes[1]) << 8) |
+          (static_cast<std::uint32_t>(bytes[2]) << 16) | (static_cast<std::uint32_t>(bytes[3]) << 24);
       float v;
       std::memcpy(&v, &bits, 4);
       t.cell[static_cast<size_t>(row * s.boundCols + col)] = v;

@@ -12,18 +12,38 @@ namespace vn {
 
 // In the order the start-up reads them.
 enum CatalogueId : int {
-  catHea, catHeb, catHem, catIpe, catUpe, catShs, catRhs, catCfshs, catCfrhs, catL1, catL2,
-  catInp, catUnp, catL3, catHp, catUb, catUbp, catUc, catJ, catCh, catPfc, catCount
+  catHea,
+  catHeb,
+  catHem,
+  catIpe,
+  catUpe,
+  catShs,
+  catRhs,
+  catCfshs,
+  catCfrhs,
+  catL1,
+  catL2,
+  catInp,
+  catUnp,
+  catL3,
+  catHp,
+  catUb,
+  catUbp,
+  catUc,
+  catJ,
+  catCh,
+  catPfc,
+  catCount
 };
 
 // How a list item of a catalogue row is written.
 enum class ListRule {
-  PrefixCol1,          // "HEA" then column 1
-  SquareHollow,        // prefix, column 1 "x" column 1 "x" column 2
-  ThreeCols,           // prefix, column 1 "x" column 2 "x" column 3
-  EqualAngle,          // "L " column 1 "x" column 1 "x" column 2
-  FourCols,            // prefix, columns 1 to 4 joined by "x"
-  TwoCols,             // prefix, column 1 "x" column 2
+  PrefixCol1,    // "HEA" then column 1
+  SquareHollow,  // prefix, column 1 "x" column 1 "x" column 2
+  ThreeCols,     // prefix, column 1 "x" column 2 "x" column 3
+  EqualAngle,    // "L " column 1 "x" column 1 "x" column 2
+  FourCols,      // prefix, columns 1 to 4 joined by "x"
+  TwoCols,       // prefix, column 1 "x" column 2
 };
 
 struct CatalogueSpec {
@@ -32,7 +52,7 @@ struct CatalogueSpec {
   int cols;       // K, values of a row
   int boundRows;  // table bound
   int boundCols;
-  int loopRows;   // rows the reading loop counts; more than boundRows only for ubp.dat
+  int loopRows;  // rows the reading loop counts; more than boundRows only for ubp.dat
   const char* prefix;
   ListRule rule;
 };

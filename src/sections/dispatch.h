@@ -14,13 +14,13 @@ struct State;
 using SectionRoutine = void (*)(State&);
 
 struct SectionFamilyRow {
-  int firstType, lastType;             // ProfileType range of the row
-  SectionRoutine properties;           // dimensions and properties
-  std::vector<SectionRoutine> then;    // after SelectYieldStrength, in order
-  int ltbRelevant;                     // -1, 0, or kLtbUnchanged
-  bool axialZero = false;              // the working axial force is set to 0 first
-  int channelKind = 0;                 // 2 for the channels
-  bool keepsLastFlange = false;        // b and tf stay as the last section left them
+  int firstType, lastType;           // ProfileType range of the row
+  SectionRoutine properties;         // dimensions and properties
+  std::vector<SectionRoutine> then;  // after SelectYieldStrength, in order
+  int ltbRelevant;                   // -1, 0, or kLtbUnchanged
+  bool axialZero = false;            // the working axial force is set to 0 first
+  int channelKind = 0;               // 2 for the channels
+  bool keepsLastFlange = false;      // b and tf stay as the last section left them
 };
 
 inline constexpr int kLtbUnchanged = 1;

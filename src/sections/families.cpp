@@ -8,8 +8,8 @@
 #include "sections/hsq.h"
 #include "sections/plates.h"
 #include "sections/rolled_i.h"
-#include "sections/welded_i.h"
 #include "sections/small_families.h"
+#include "sections/welded_i.h"
 
 namespace vn {
 
@@ -43,10 +43,10 @@ std::vector<SectionFamilyRow> SectionFamilyTable() {
   rows.push_back({53, 53, PlateWeldedAngleProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
   rows.push_back({54, 54, PlateBulbProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
   rows.push_back({56, 56, PlateTeeProperties, {StiffenedEffective, StiffenedClasses}, -1, true});
-  rows.push_back({101, 101, BritishIProperties,
-                  {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
-  rows.push_back({102, 102, BritishJProperties,
-                  {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
+  rows.push_back(
+      {101, 101, BritishIProperties, {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
+  rows.push_back(
+      {102, 102, BritishJProperties, {RolledIEffective, SectionShearResistances, RolledICapacities}, -1});
   rows.push_back({103, 103, BritishChannelProperties, {BritishChannelRoutines}, -1, false, 2});
   return rows;
 }

@@ -53,8 +53,7 @@ void Contour(Section& c, int first, double x0, double y0, double w, double h, do
   at(x0, y0 + r);
 }
 
-void HollowProperties(State& s, CatalogueId id, const HollowColumns& col, Finish finish,
-                      bool rectangular) {
+void HollowProperties(State& s, CatalogueId id, const HollowColumns& col, Finish finish, bool rectangular) {
   Section& c = s.section;
   const Project& p = s.project;
   // A rectangular tube turned by 90 degrees reads h and b, and the y and z values, the other way.
@@ -124,8 +123,8 @@ double RhoInternal(Single lamdaP) {
 // One bending pass: the compressed wall of width `cw` and thickness `ct` keeps rhoCompressed of
 // its flat, then the two side walls (flat `flat`, thickness `st`) lose the strip that the stress
 // gradient leaves them. Returns the effective modulus of the compressed edge.
-double BendingPass(State& s, EffWork& w, double depth, double I0, double cw, double ct,
-                   double rhoCompressed, double flat, double st) {
+double BendingPass(State& s, EffWork& w, double depth, double I0, double cw, double ct, double rhoCompressed,
+                   double flat, double st) {
   const Section& c = s.section;
   const Project& p = s.project;
   const double A = c.A;
@@ -139,8 +138,7 @@ double BendingPass(State& s, EffWork& w, double depth, double I0, double cw, dou
   if (w.lamdaP <= 0.5 + Sqrt(0.085 - 0.055 * w.psi))
     w.rhoWeb = 1;
   else
-    w.rhoWeb =
-        ToSingle(Div(w.lamdaP - 0.055 * (3 + w.psi), static_cast<double>(w.lamdaP) * w.lamdaP));
+    w.rhoWeb = ToSingle(Div(w.lamdaP - 0.055 * (3 + w.psi), static_cast<double>(w.lamdaP) * w.lamdaP));
   if (w.rhoWeb > 1) w.rhoWeb = 1;
   if (On(p.noWebBuckling)) w.rhoWeb = 1;
 
@@ -158,8 +156,8 @@ double BendingPass(State& s, EffWork& w, double depth, double I0, double cw, dou
 // The classification of both axes: `web` is the slenderness of the walls the bending stretches
 // and compresses, `flange` that of the compressed wall; `edge` the distance of the stress sigmaM
 // from the axis and `alfaArea` the area of the axial share alfa.
-double HollowClass(State& s, double N, double M, double I, double edge, Single web,
-                   double alfaArea, Single flange) {
+double HollowClass(State& s, double N, double M, double I, double edge, Single web, double alfaArea,
+                   Single flange) {
   Section& c = s.section;
   const Project& p = s.project;
   const double eps = p.epsilon, fyk = p.fyk;
@@ -231,14 +229,14 @@ void CfrhsProperties(State& s) { HollowProperties(s, catCfrhs, kRectCols, Finish
 
 double ClassHollowY(State& s, double N, double M) {
   const Section& c = s.section;
-  return HollowClass(s, N, M, c.Iy, c.d / 2.0, ToSingle(Div(c.d, c.tw)),
-                     static_cast<double>(c.hw) * c.tw, ToSingle(Div(c.c, c.tf)));
+  return HollowClass(s, N, M, c.Iy, c.d / 2.0, ToSingle(Div(c.d, c.tw)), static_cast<double>(c.hw) * c.tw,
+                     ToSingle(Div(c.c, c.tf)));
 }
 
 double ClassHollowZ(State& s, double N, double M) {
   const Section& c = s.section;
-  return HollowClass(s, N, M, c.Iz, c.c / 2.0, ToSingle(Div(c.c, c.tf)),
-                     2.0 * c.tf * c.ri, ToSingle(Div(c.d, c.tw)));
+  return HollowClass(s, N, M, c.Iz, c.c / 2.0, ToSingle(Div(c.c, c.tf)), 2.0 * c.tf * c.ri,
+                     ToSingle(Div(c.d, c.tw)));
 }
 
 void HollowEffective(State& s) {

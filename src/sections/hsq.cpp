@@ -52,7 +52,8 @@ void TwoWebFigure(State& s, double h, double b1, double b2, double tw, double tf
 // both fibres, the stepped plastic axis. `ez` is the centroid from the lower edge.
 void PlatedSums(State& s, double h, double b1, double b2, double tw, double tf1, double tf2) {
   Section& c = s.section;
-  const std::array<Plate, 3> plates = {{{b1, tf1, 0, h - tf1}, {2 * tw, h - tf1 - tf2, 0, tf2}, {b2, tf2, 0, 0}}};
+  const std::array<Plate, 3> plates = {
+      {{b1, tf1, 0, h - tf1}, {2 * tw, h - tf1 - tf2, 0, tf2}, {b2, tf2, 0, 0}}};
   const PlateSums sum = PlateTable(c, plates);
   c.A = ToSingle(sum.A);
   c.g = ToSingle(static_cast<double>(s.project.rho) * c.A * 1e-6);

@@ -90,7 +90,8 @@ void PlasticAxis(State& s, std::span<const Plate> plates, double extraArea = 0, 
     if (b2 > 0) Wply += (tf1 + hw + tf2 / 2 - zpl) * b2 * tf2;
   } else if (half - tf1 * b1 <= hw * tw || b2 <= 0) {
     zpl = Div(half - tf1 * b1, tw) + tf1;
-    Wply = (zpl - tf1) * (zpl - tf1) * tw / 2 + (zpl - tf1 / 2) * tf1 * b1 + (hw + tf1 - zpl) * (hw + tf1 - zpl) * tw / 2;
+    Wply = (zpl - tf1) * (zpl - tf1) * tw / 2 + (zpl - tf1 / 2) * tf1 * b1 +
+           (hw + tf1 - zpl) * (hw + tf1 - zpl) * tw / 2;
     if (b2 > 0) Wply += (tf1 + hw + tf2 / 2 - zpl) * b2 * tf2;
   } else {
     zpl = Div(half - tf1 * b1 - hw * tw, b2) + tf1 + hw;
@@ -195,8 +196,8 @@ void PlateWeldedAngleProperties(State& s) {
   c.S = ToSingle((2 * (st.b2 + c.b1 + c.h) - 2 * st.tw) / 1000);
   PlasticAxis(s, plates);
   SetSectionName(s, 53,
-                 PlateName(s, c.b1, c.tf1) + " + L " + Dim(s, st.hs) + "x" + Dim(s, st.b2) + "x" + Dim(s, st.tw) +
-                     "x" + Dim(s, st.tf2));
+                 PlateName(s, c.b1, c.tf1) + " + L " + Dim(s, st.hs) + "x" + Dim(s, st.b2) + "x" +
+                     Dim(s, st.tw) + "x" + Dim(s, st.tf2));
   PlateFigure(s, plates);
 }
 
@@ -211,8 +212,8 @@ void PlateTeeProperties(State& s) {
   c.S = ToSingle((2 * (st.b2 + c.b1 + c.h) - 2 * st.tw) / 1000);
   PlasticAxis(s, plates);
   SetSectionName(s, 56,
-                 PlateName(s, c.b1, c.tf1) + " + T " + Dim(s, st.hs) + "x" + Dim(s, st.b2) + "x" + Dim(s, st.tw) +
-                     "x" + Dim(s, st.tf2));
+                 PlateName(s, c.b1, c.tf1) + " + T " + Dim(s, st.hs) + "x" + Dim(s, st.b2) + "x" +
+                     Dim(s, st.tw) + "x" + Dim(s, st.tf2));
   PlateFigure(s, plates);
 }
 
@@ -245,8 +246,8 @@ void PlateAngleProperties(State& s) {
   // The fillet's lever in the plastic modulus is taken as h + tf1 - zpl - tf2 + 0.2234 r2.
   PlasticAxis(s, plates, Af, hs + static_cast<double>(c.tf1) - tf2 + 0.2234 * rf);
   SetSectionName(s, 52,
-                 PlateName(s, c.b1, c.tf1) + " + L " + Dim(s, hs) + "x" + Dim(s, b2) + "x" + Dim(s, tw) + "x" +
-                     Dim(s, tf2));
+                 PlateName(s, c.b1, c.tf1) + " + L " + Dim(s, hs) + "x" + Dim(s, b2) + "x" + Dim(s, tw) +
+                     "x" + Dim(s, tf2));
   PlateFigure(s, plates);
 }
 
@@ -303,8 +304,8 @@ void PlateEffective(State& s) {
   const double AeffW = c.A - (1 - rhoW) * tw * bc;
   const Single ce = ToSingle(Div(edge * c.A - tw * lostDepth * lostDepth / 2, AeffW));
   const double t = lostDepth * tw, pStrip = lostDepth / 2;
-  const double I = edge * edge * c.A + c.Iy - tw * lostDepth * lostDepth * lostDepth / 12 - t * pStrip * pStrip -
-                   AeffW * static_cast<double>(ce) * ce;
+  const double I = edge * edge * c.A + c.Iy - tw * lostDepth * lostDepth * lostDepth / 12 -
+                   t * pStrip * pStrip - AeffW * static_cast<double>(ce) * ce;
   c.WeffyBot2 = ToSingle(Div(I, ce));
   c.WeffyTop2 = ToSingle(Div(I, h - ce));
 }

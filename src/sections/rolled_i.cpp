@@ -77,8 +77,7 @@ void EffectiveAboutY(State& s, EffWork& w, double strips) {
   if (w.lamdaP <= 0.5 + Sqrt(0.085 - 0.055 * w.psi))
     w.rhoWeb = 1;
   else
-    w.rhoWeb = ToSingle(
-        Div(w.lamdaP - 0.055 * (3 + w.psi), static_cast<double>(w.lamdaP) * w.lamdaP));
+    w.rhoWeb = ToSingle(Div(w.lamdaP - 0.055 * (3 + w.psi), static_cast<double>(w.lamdaP) * w.lamdaP));
   if (w.rhoWeb > 1) w.rhoWeb = 1;
   if (On(p.noWebBuckling)) w.rhoWeb = 1;
 
@@ -88,8 +87,8 @@ void EffectiveAboutY(State& s, EffWork& w, double strips) {
   const double t = (1 - w.rhoWeb) * c.tw * w.bc;
   const double pStrip = w.centroid - 0.6 * w.rhoWeb * w.bc - lostDepth / 2;
   w.AeffW = w.AeffW - t;
-  w.centroidEff = ToSingle(
-      Div(static_cast<double>(c.h) * c.A / 2 - t * pStrip - lostFlange * c.tf * c.tf / 2, w.AeffW));
+  w.centroidEff =
+      ToSingle(Div(static_cast<double>(c.h) * c.A / 2 - t * pStrip - lostFlange * c.tf * c.tf / 2, w.AeffW));
 
   // 8. Second moment about the compressed edge, then about the effective centroid.
   const double tf = c.tf;
@@ -241,8 +240,8 @@ void RolledIProperties(State& s) {
 
   const double h = c.h, b = c.b, tf = c.tf, tw = c.tw, r = c.r;
   c.g = ToSingle(static_cast<double>(p.rho) * c.A * 1e-6);
-  c.S = ToSingle((2 * (b - tw - 2 * r) + 4 * tf + 2 * b + 2 * (h - 2 * tf - 2 * r) + kTwoPiSingle * r) /
-                 1000);
+  c.S =
+      ToSingle((2 * (b - tw - 2 * r) + 4 * tf + 2 * b + 2 * (h - 2 * tf - 2 * r) + kTwoPiSingle * r) / 1000);
   c.Af = ToSingle(2 * b * tf);
   c.Aw = ToSingle((h - 2 * tf) * tw);
   c.Wely = ToSingle(Div(c.Iy, h / 2));
@@ -391,9 +390,7 @@ double ClassAboutZ(State& s, double N, double M) {
   auto webSlenderness = [&] { return ToSingle(Div(c.d, c.tw)); };
   auto psiOf = [&] { return sigma2 != 0 ? Div(sigma1, sigma2) : 0.0; };
   // Class 3 or 4 of the outstand under the stress gradient.
-  auto gradient = [&](double ctf) {
-    return ctf <= 21 * eps * Sqrt(KSigmaOutstand(psiOf())) ? 3.0 : 4.0;
-  };
+  auto gradient = [&](double ctf) { return ctf <= 21 * eps * Sqrt(KSigmaOutstand(psiOf())) ? 3.0 : 4.0; };
 
   if (N < 0 && M == 0) {
     c.classWeb = 1;

@@ -17,11 +17,11 @@ struct EffWork {
   double rhoFlange = 0;  // (d)
   Single rhoWeb = 0;
   Single lamdaP = 0;
-  double psi = 0;        // (d)
-  double ksigma = 0;     // (d)
-  double AeffW = 0;      // (d) area during the calculation
-  double centroid = 0;   // (d) from the compressed edge
-  double bc = 0;         // (d) compressed web depth
+  double psi = 0;       // (d)
+  double ksigma = 0;    // (d)
+  double AeffW = 0;     // (d) area during the calculation
+  double centroid = 0;  // (d) from the compressed edge
+  double bc = 0;        // (d) compressed web depth
   Single centroidEff = 0;
 };
 

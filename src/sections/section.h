@@ -54,28 +54,28 @@ struct Section {
   double VyRd = 0, VzRd = 0;  // (d)
   Single VplRd = 0;
   Single VplyRd = 0;  // plastic shear along y of the closed sections
-  double VbyRd = 0;  // (d)
+  double VbyRd = 0;   // (d)
   Single VbzRd = 0;
   double NRdBuck = 0, MyRdBuck = 0, MzRdBuck = 0;  // (d)
 
   // Welded I with unequal flanges (22): index 1 is the upper flange, 2 the lower. The centroid from
   // the lower edge is `ez`; the elastic moduli of the upper and lower fibre are `Wyt` and `Wyb`.
-  double c1 = 0, c2 = 0;  // (d) flange outstands; the legs of an unequal angle
-  Single zpl = 0;         // plastic neutral axis from the lower edge
-  Single WeffyTop = 0, WeffyBot = 0;    // effective moduli, upper flange compressed
-  Single WeffyTop2 = 0, WeffyBot2 = 0;  // effective moduli, lower flange compressed
-  double Weffy1 = 0, Weffy2 = 0;        // (d) the smaller of each pair
-  double MeffyRd1 = 0, MeffyRd2 = 0;    // (d)
-  double classMyPos = 0, classMyNeg = 0;  // (d) class under positive and negative My
-  Single WyPos = 0, WyNeg = 0;            // the modulus the class selects, per sign
-  Single MyRdPos = 0, MyRdNeg = 0;        // the resistance the class selects, per sign
+  double c1 = 0, c2 = 0;                    // (d) flange outstands; the legs of an unequal angle
+  Single zpl = 0;                           // plastic neutral axis from the lower edge
+  Single WeffyTop = 0, WeffyBot = 0;        // effective moduli, upper flange compressed
+  Single WeffyTop2 = 0, WeffyBot2 = 0;      // effective moduli, lower flange compressed
+  double Weffy1 = 0, Weffy2 = 0;            // (d) the smaller of each pair
+  double MeffyRd1 = 0, MeffyRd2 = 0;        // (d)
+  double classMyPos = 0, classMyNeg = 0;    // (d) class under positive and negative My
+  Single WyPos = 0, WyNeg = 0;              // the modulus the class selects, per sign
+  Single MyRdPos = 0, MyRdNeg = 0;          // the resistance the class selects, per sign
   double MyRdBuckPos = 0, MyRdBuckNeg = 0;  // (d) the same times gammaM0 / gammaM1
-  Single betaf = 0, betaf2 = 0;  // Iz1 / (Iz1 + Iz2), Iz2 / (Iz1 + Iz2)
-  double zs = 0;                 // (d) shear centre above the centroid
-  double psif = 0;               // (d) (Iz1 - Iz2) / (Iz1 + Iz2)
-  Single psif2 = 0;              // its negative
-  double zj = 0;                 // (d) asymmetry term of the critical moment, positive My
-  Single zj2 = 0;                // the same, negative My
+  Single betaf = 0, betaf2 = 0;             // Iz1 / (Iz1 + Iz2), Iz2 / (Iz1 + Iz2)
+  double zs = 0;                            // (d) shear centre above the centroid
+  double psif = 0;                          // (d) (Iz1 - Iz2) / (Iz1 + Iz2)
+  Single psif2 = 0;                         // its negative
+  double zj = 0;                            // (d) asymmetry term of the critical moment, positive My
+  Single zj2 = 0;                           // the same, negative My
   // HSQ (24, 25) and the box with unequal flanges (27): the plastic moduli of an upgraded class 3
   // web, and the share of the moment resistance that the load on the lower plate leaves.
   Single WplyTop = 0, WplyBot = 0;

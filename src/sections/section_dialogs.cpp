@@ -15,36 +15,21 @@ namespace vn {
 namespace {
 
 constexpr std::array<SectionDialogInfo, 31> kDialogs{{
-    {1, "p01", "mnup01", "p01i", "HEA"},
-    {2, "p02", "mnup02", "p02i", "HEB"},
-    {3, "p03", "mnup03", "p03i", "HEM"},
-    {4, "p04", "mnup04", "p04i", "IPE"},
-    {15, "p15", "mnup15", "p15i", "INP"},
-    {5, "p05", "mnup05", "p05i", nullptr},
-    {16, "p16", "mnup16", "p16i", nullptr},
-    {6, "p06", "mnup06", "p06i", nullptr},
-    {7, "p07", "mnup07", "p07i", nullptr},
-    {8, "p08", "mnup08", "p08i", nullptr},
-    {9, "p09", "mnup09", "p09i", nullptr},
-    {10, "p10", "mnup10", "p10i", nullptr},
-    {11, "p11", "mnup11", "p11i", "L-unequal"},
-    {21, "p21", "mnup21", "p21i", nullptr},
-    {22, "p22", "mnup22", "p22i", nullptr},
-    {26, "p26", "mnu26", "p26i", nullptr},
-    {23, "p23", "mnup23", "p23i", nullptr},
-    {27, "p27", "mnup27", "p27i", nullptr},
-    {24, "p24", "mnup24", "p24i", nullptr},
-    {25, "p25", "mnup25", "p25i", nullptr},
-    {56, "p56", "mnuplateTg", "p56i", nullptr},
-    {52, "p52", "mnuplateLr", "p52i", nullptr},
-    {53, "p53", "mnuplateLweld", "p53i", nullptr},
-    {54, "p54", "mnuplateBf", "Command2", nullptr},
-    {51, "p51", "mnuplateFb", "p51i", nullptr},
-    {31, "p31", "mnup31", "p31i", nullptr},
-    {28, "p28", "mnup28", "p28i", nullptr},
-    {41, "p41", "mnup41", "p41i", nullptr},
-    {101, "p101", "mnuu", "p101i", "U"},
-    {102, "p102", "mnuj", "p102i", "J"},
+    {1, "p01", "mnup01", "p01i", "HEA"},           {2, "p02", "mnup02", "p02i", "HEB"},
+    {3, "p03", "mnup03", "p03i", "HEM"},           {4, "p04", "mnup04", "p04i", "IPE"},
+    {15, "p15", "mnup15", "p15i", "INP"},          {5, "p05", "mnup05", "p05i", nullptr},
+    {16, "p16", "mnup16", "p16i", nullptr},        {6, "p06", "mnup06", "p06i", nullptr},
+    {7, "p07", "mnup07", "p07i", nullptr},         {8, "p08", "mnup08", "p08i", nullptr},
+    {9, "p09", "mnup09", "p09i", nullptr},         {10, "p10", "mnup10", "p10i", nullptr},
+    {11, "p11", "mnup11", "p11i", "L-unequal"},    {21, "p21", "mnup21", "p21i", nullptr},
+    {22, "p22", "mnup22", "p22i", nullptr},        {26, "p26", "mnu26", "p26i", nullptr},
+    {23, "p23", "mnup23", "p23i", nullptr},        {27, "p27", "mnup27", "p27i", nullptr},
+    {24, "p24", "mnup24", "p24i", nullptr},        {25, "p25", "mnup25", "p25i", nullptr},
+    {56, "p56", "mnuplateTg", "p56i", nullptr},    {52, "p52", "mnuplateLr", "p52i", nullptr},
+    {53, "p53", "mnuplateLweld", "p53i", nullptr}, {54, "p54", "mnuplateBf", "Command2", nullptr},
+    {51, "p51", "mnuplateFb", "p51i", nullptr},    {31, "p31", "mnup31", "p31i", nullptr},
+    {28, "p28", "mnup28", "p28i", nullptr},        {41, "p41", "mnup41", "p41i", nullptr},
+    {101, "p101", "mnuu", "p101i", "U"},           {102, "p102", "mnuj", "p102i", "J"},
     {103, "p103", "mnuc", "p103i", "U"},  // "U" for the channels too
 }};
 
@@ -72,7 +57,6 @@ const OptionGroup kOptionGroups[] = {
     {"p41", "cboclassMy", [](const State& s) -> int { return s.project.p41.classMy - 1; }},
     {"p41", "cboclassMz", [](const State& s) -> int { return s.project.p41.classMz - 1; }},
 };
-
 
 std::string Key(const SectionDialogInfo& d, const char* control) {
   return std::string(d.form) + "." + control;
@@ -149,8 +133,8 @@ EventResult OnListClick(State& s, const SectionDialogInfo& d, std::string_view t
   const int index = ChoiceIndex(text);
   if (index < 0 || index >= rows) {
     r.refused = true;
-    r.message = rows > 0 ? "No item " + std::string(text) + " in the list of " + d.form +
-                               " (items 0 to " + std::to_string(rows - 1) + ")"
+    r.message = rows > 0 ? "No item " + std::string(text) + " in the list of " + d.form + " (items 0 to " +
+                               std::to_string(rows - 1) + ")"
                          : std::string("The list of ") + d.form + " is empty";
     return r;
   }
@@ -204,8 +188,8 @@ void RegisterGeneralSectionControls(ControlTable& t, const SectionDialogInfo* d)
       const int index = ChoiceIndex(text);
       if (index < 0 || index > 3) {
         r.refused = true;
-        r.message = "No item " + std::string(text) + " in the list " + d->form + "." + list.name +
-                    " (items 0 to 3)";
+        r.message =
+            "No item " + std::string(text) + " in the list " + d->form + "." + list.name + " (items 0 to 3)";
         return r;
       }
       EnsureActive(s, *d);
@@ -294,9 +278,8 @@ void RegisterSectionControls(ControlTable& t) {
       Activate(s, *d);
       return EventResult{};
     });
-    AddControl(t, d->form, "cbo", [d](State& s, int, std::string_view text) {
-      return OnListClick(s, *d, text);
-    });
+    AddControl(t, d->form, "cbo",
+               [d](State& s, int, std::string_view text) { return OnListClick(s, *d, text); });
     AddControl(t, d->form, "pic1", [d](State& s, int, std::string_view) {
       EnsureActive(s, *d);
       s.project.figureNotToScale = s.project.figureNotToScale != 0 ? 0 : 1;
@@ -341,7 +324,9 @@ void RegisterSectionControls(ControlTable& t) {
       AddSectionDialogOption(t, d->form, "opthsq1", [](State& s) { s.project.hsqKind = 1; });
       // A class 3 web upgraded to class 2 (EN 1993-1-1 6.2.2.4): 0 yes, 1 no.
       const bool sym = d->type == 24;
-      auto classOption = [sym](State& s) -> Integer& { return sym ? s.project.p24.classOption : s.project.p25.classOption; };
+      auto classOption = [sym](State& s) -> Integer& {
+        return sym ? s.project.p24.classOption : s.project.p25.classOption;
+      };
       AddSectionDialogOption(t, d->form, "OptClass23Y", [classOption](State& s) { classOption(s) = 0; });
       AddSectionDialogOption(t, d->form, "OptClass23N", [classOption](State& s) { classOption(s) = 1; });
     }

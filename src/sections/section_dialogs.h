@@ -20,11 +20,11 @@ struct State;
 class ControlTable;
 
 struct SectionDialogInfo {
-  int type;             // ProfileType
-  const char* form;     // "p01"
-  const char* menu;     // "mnup01"
-  const char* button;   // "p01i", the picture button of the main form
-  const char* name;     // profileName the family sets; nullptr leaves it unchanged
+  int type;            // ProfileType
+  const char* form;    // "p01"
+  const char* menu;    // "mnup01"
+  const char* button;  // "p01i", the picture button of the main form
+  const char* name;    // profileName the family sets; nullptr leaves it unchanged
 };
 
 // The dialog of a family, or nullptr.

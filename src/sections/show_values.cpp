@@ -26,8 +26,7 @@ void DimensionBlock(Block& out, const Section& c, Dims kind, bool toeRadius) {
   out.Line("tf =", c.tf, "#0.0", " mm");
   out.Line("tw =", c.tw, "#0.0", " mm");
   switch (kind) {
-    case Dims::Inp:
-      break;  // no radius in the table
+    case Dims::Inp: break;  // no radius in the table
     case Dims::Unp:
       out.Line("r1 =", c.r1, "#0.0", " mm");
       out.Line("r2 =", c.r2, "#0.0", " mm");
@@ -45,10 +44,27 @@ std::string ClassText(const Section& c, bool comma) {
 
 // The rows of the frames "Section property" and "Capacity", in their order.
 enum Row : unsigned {
-  rA = 1u << 0, rIx = 1u << 1, rIy = 1u << 2, rIz = 1u << 3, rWely = 1u << 4, rWelz = 1u << 5,
-  rWply = 1u << 6, rWplz = 1u << 7, rIw = 1u << 8, rG = 1u << 9, rS = 1u << 10, rAeff = 1u << 11,
-  rWeffy = 1u << 12, rWeffz = 1u << 13, rClass = 1u << 14, rNt = 1u << 15, rNc = 1u << 16,
-  rVy = 1u << 17, rVz = 1u << 18, rMy = 1u << 19, rMz = 1u << 20,
+  rA = 1u << 0,
+  rIx = 1u << 1,
+  rIy = 1u << 2,
+  rIz = 1u << 3,
+  rWely = 1u << 4,
+  rWelz = 1u << 5,
+  rWply = 1u << 6,
+  rWplz = 1u << 7,
+  rIw = 1u << 8,
+  rG = 1u << 9,
+  rS = 1u << 10,
+  rAeff = 1u << 11,
+  rWeffy = 1u << 12,
+  rWeffz = 1u << 13,
+  rClass = 1u << 14,
+  rNt = 1u << 15,
+  rNc = 1u << 16,
+  rVy = 1u << 17,
+  rVz = 1u << 18,
+  rMy = 1u << 19,
+  rMz = 1u << 20,
   rAll = (1u << 21) - 1
 };
 
@@ -73,7 +89,8 @@ void PropertyBlock(Block& out, const Section& c, unsigned rows = rAll) {
   line(rWeffy, "Weff,y =", c.Weffy, "0.000E+0", " mm3");
   line(rWeffz, "Weff,z =", c.Weffz, "0.000E+0", " mm3");
   if (rows & rClass)
-    out.s.view.sectionValues.push_back({"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
+    out.s.view.sectionValues.push_back(
+        {"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
   line(rNt, "Nt,Rd =", c.NtRd, "#0.0", " kN");
   line(rNc, "Nc,Rd =", c.NcRd, "#0.0", " kN");
   line(rVy, "Vc,y,Rd =", c.VbyRd, "#0.0", " kN");
@@ -102,8 +119,8 @@ void SingleSymBlock(Block& out, const Section& c) {
   out.Line("Aeff =", c.Aeff, "##0", " mm2");
   out.Line("Weff,z =", c.Weffz, "0.000E+0", " mm3");
   out.s.view.sectionValues.push_back(
-      {"Cross Section Class: ", FormatNumber(c.classN, "#0", comma) + "/" + FormatNumber(c.classMz, "#0", comma),
-       "(N/Mz)"});
+      {"Cross Section Class: ",
+       FormatNumber(c.classN, "#0", comma) + "/" + FormatNumber(c.classMz, "#0", comma), "(N/Mz)"});
   out.Line("Nt,Rd =", c.NtRd, "#0.0", " kN");
   out.Line("Nc,Rd =", c.NcRd, "#0.0", " kN");
   out.Line("Vc,y,Rd =", c.VbyRd, "#0.0", " kN");
@@ -132,7 +149,9 @@ void PlatedBlock(Block& out, const Section& c, bool plate) {
   out.Line("Wpl,y =", c.Wply, "0.000E+0", " mm3");
   out.Line("g =", c.g, "#0.0", " kg/m");
   out.Line("S =", c.S, "#0.000", " m2/m");
-  auto classText = [&](double cls) { return cls == 23 ? std::string("3/2") : FormatNumber(cls, "#0", comma); };
+  auto classText = [&](double cls) {
+    return cls == 23 ? std::string("3/2") : FormatNumber(cls, "#0", comma);
+  };
   auto side = [&](const char* title, double cls, double Wt, double Wb, double MyRd) {
     out.s.view.sectionValues.push_back({title, "", ""});
     out.s.view.sectionValues.push_back({"Cross Section Class: ", classText(cls), "(My)"});
@@ -175,7 +194,8 @@ void AngleBlocks(Block& out, const Section& c) {
   out.Line("g =", c.g, "#0.0", " kg/m");
   out.Line("S =", c.S, "#0.000", " m2/m");
   out.Line("Aeff =", c.Aeff, "##0", " mm2");
-  out.s.view.sectionValues.push_back({"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
+  out.s.view.sectionValues.push_back(
+      {"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
   out.Line("Nt,Rd =", c.NtRd, "#0.0", " kN");
   out.Line("Nc,Rd =", c.NcRd, "#0.0", " kN");
   out.Line("Vc,y,Rd =", c.VbyRd, "#0.0", " kN");
@@ -193,57 +213,49 @@ void ShowSectionValues(State& s) {
   Block out{s};
   const Section& c = s.section;
   switch (s.project.ProfileType) {
-    case 1: case 2: case 3: case 4:
-      DimensionBlock(out, c, Dims::RolledI, false);
-      break;
-    case 15:
-      DimensionBlock(out, c, Dims::Inp, false);
-      break;
-    case 5:
-      DimensionBlock(out, c, Dims::Upe, false);
-      break;
-    case 16:
-      DimensionBlock(out, c, Dims::Unp, false);
-      break;
-    case 101: case 102:
-      DimensionBlock(out, c, Dims::British, false);
-      break;
-    case 103:
-      DimensionBlock(out, c, Dims::BritishChannel, s.project.subFamily103 != 1);
-      break;
-    case 6: case 7: case 8: case 9:
+    case 1:
+    case 2:
+    case 3:
+    case 4: DimensionBlock(out, c, Dims::RolledI, false); break;
+    case 15: DimensionBlock(out, c, Dims::Inp, false); break;
+    case 5: DimensionBlock(out, c, Dims::Upe, false); break;
+    case 16: DimensionBlock(out, c, Dims::Unp, false); break;
+    case 101:
+    case 102: DimensionBlock(out, c, Dims::British, false); break;
+    case 103: DimensionBlock(out, c, Dims::BritishChannel, s.project.subFamily103 != 1); break;
+    case 6:
+    case 7:
+    case 8:
+    case 9:
       // One wall thickness, and the corner radius that follows from it.
       out.Line("h =", c.h, "#0", " mm");
       out.Line("b =", c.b, "#0", " mm");
       out.Line("t =", c.tw, "#0.0", " mm");
       out.Line("r =", c.r, "#0.0", " mm");
       if (s.project.ProfileType == 8 || s.project.ProfileType == 9)
-        s.view.sectionValues.back().tip =
-            " r = 2*t ; t<=6 \n r = 2.5*t ; 6<t<=10 \n r = 3*t ; t>10 ";
+        s.view.sectionValues.back().tip = " r = 2*t ; t<=6 \n r = 2.5*t ; 6<t<=10 \n r = 3*t ; t>10 ";
       break;
-    case 21: case 23:
-      break;  // the typed dimensions stand in the dialog's fields
-    case 22:
-      SingleSymBlock(out, c);
-      return;
-    case 10: case 11:
-      AngleBlocks(out, c);
-      return;
+    case 21:
+    case 23: break;  // the typed dimensions stand in the dialog's fields
+    case 22: SingleSymBlock(out, c); return;
+    case 10:
+    case 11: AngleBlocks(out, c); return;
     case 26:
       // An axial member: no moment or shear resistance of its own.
       out.Line("h =", c.h, "#0", " mm");
       out.Line("b =", c.b, "#0", " mm");
       out.Line("tw =", c.tw, "#0.0", " mm");
       out.Line("tf =", c.tf, "#0.0", " mm");
-      PropertyBlock(out, c, rA | rIx | rIy | rIz | rWely | rWelz | rWply | rIw | rG | rS | rAeff |
-                                rClass | rNt | rNc);
+      PropertyBlock(
+          out, c, rA | rIx | rIy | rIz | rWely | rWelz | rWply | rIw | rG | rS | rAeff | rClass | rNt | rNc);
       return;
     case 28:
       // Bending about y and shear along z only.
       out.Line("h =", c.h, "#0", " mm");
       out.Line("t =", c.tw, "#0.0", " mm");
-      PropertyBlock(out, c, rA | rIx | rIy | rIz | rWely | rWelz | rWply | rWplz | rG | rS |
-                                rClass | rNt | rNc | rVz | rMy);
+      PropertyBlock(
+          out, c,
+          rA | rIx | rIy | rIz | rWely | rWelz | rWply | rWplz | rG | rS | rClass | rNt | rNc | rVz | rMy);
       return;
     case 31:
       out.Line("d =", c.d, "#0.0", " mm");
@@ -254,14 +266,15 @@ void ShowSectionValues(State& s) {
       // The properties are the typed fields themselves.
       PropertyBlock(out, c, rG | rClass | rNt | rNc | rVy | rVz | rMy | rMz);
       return;
-    case 24: case 25: case 27:
-      PlatedBlock(out, c, false);
-      return;
-    case 51: case 52: case 53: case 54: case 56:
-      PlatedBlock(out, c, true);
-      return;
-    default:
-      return;  // the other families show their own blocks
+    case 24:
+    case 25:
+    case 27: PlatedBlock(out, c, false); return;
+    case 51:
+    case 52:
+    case 53:
+    case 54:
+    case 56: PlatedBlock(out, c, true); return;
+    default: return;  // the other families show their own blocks
   }
   PropertyBlock(out, c);
 }

@@ -15,12 +15,8 @@ namespace {
 bool On(Boolean flag) { return flag != 0; }
 
 // W fyk / gammaM0 in kNm and A fyk / gammaM0 in kN.
-double MomentOf(const State& s, double W) {
-  return Div(Div(W * s.project.fyk, s.project.gammaM0), 1e6);
-}
-double ForceOf(const State& s, double A) {
-  return Div(Div(A * s.project.fyk, s.project.gammaM0), 1000);
-}
+double MomentOf(const State& s, double W) { return Div(Div(W * s.project.fyk, s.project.gammaM0), 1e6); }
+double ForceOf(const State& s, double A) { return Div(Div(A * s.project.fyk, s.project.gammaM0), 1000); }
 
 // The resistances of the member checks, with gammaM1.
 void BucklingResistances(State& s) {

@@ -6,8 +6,8 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <cmath>
+#include <span>
 #include <string>
 
 #include "core/format.h"
@@ -26,7 +26,6 @@ Single FlangeSlenderness(const Section& c) {
   const Single s2 = ToSingle(Div(c.c2, c.tf2));
   return std::max(s1, s2);
 }
-
 
 void Point(Section& c, int i, double x, double y) {
   c.Outline[static_cast<size_t>(i)].x = ToSingle(x);
@@ -183,10 +182,8 @@ double EffectivePass(const State& s, const EffectivePassShape& f, Single& centro
   centroidEff = w.centroidEff;
   const double ce = w.centroidEff;
   return edge * edge * c.A + c.Iy - tw * lostDepth * lostDepth * lostDepth / 12 - t * pStrip * pStrip -
-         f.strips * lost * tf * tf * tf / 12 - f.strips * lost * tf * (tf / 2) * (tf / 2) -
-         w.AeffW * ce * ce;
+         f.strips * lost * tf * tf * tf / 12 - f.strips * lost * tf * (tf / 2) * (tf / 2) - w.AeffW * ce * ce;
 }
-
 
 // ---------------------------------------------------------------------------------------------
 // Double symmetric welded I (21)
@@ -200,7 +197,8 @@ void WeldedIDoubleProperties(State& s) {
   c.tw = in.isttw;
   c.tf = in.isttf;
   const double h = c.h, b = c.b, tw = c.tw, tf = c.tf;
-  const std::array<Plate, 3> plates = {{{b, tf, 0, h - tf}, {tw, h - 2 * tf, (b - tw) / 2, tf}, {b, tf, 0, 0}}};
+  const std::array<Plate, 3> plates = {
+      {{b, tf, 0, h - tf}, {tw, h - 2 * tf, (b - tw) / 2, tf}, {b, tf, 0, 0}}};
   const PlateSums sum = PlateTable(c, plates);
 
   c.r = NominalWeld(c.tw);
@@ -295,8 +293,8 @@ void SingleSymProperties(State& s) {
   // 12. Name and figure: three rectangles, each by its lower left and upper right corner, placed
   // in the box of the wider flange.
   SetSectionName(s, 22,
-                 "I " + Dim(s, c.h) + "x" + Dim(s, c.b1) + "/" + Dim(s, c.b2) + "x" + Dim(s, c.tw) +
-                     "x" + Dim(s, c.tf1) + "/" + Dim(s, c.tf2));
+                 "I " + Dim(s, c.h) + "x" + Dim(s, c.b1) + "/" + Dim(s, c.b2) + "x" + Dim(s, c.tw) + "x" +
+                     Dim(s, c.tf1) + "/" + Dim(s, c.tf2));
   const double bmax = std::max(b1, b2), shift = (bmax - b2) / 2;
   for (int i = 0; i < 3; ++i) {
     const Plate& pl = plates[static_cast<size_t>(i)];

@@ -47,8 +47,7 @@ inline void AddUniform(State& s, int slot, Single q, int dir = 1, int loadCase =
   u.Checked = True;
 }
 
-inline void AddPoint(State& s, int slot, int kind, Single value, Single x, int dir = 1,
-                     int loadCase = 0) {
+inline void AddPoint(State& s, int slot, int kind, Single value, Single x, int dir = 1, int loadCase = 0) {
   PointLoad& p = s.loads.point[slot];
   p.Kind = static_cast<Integer>(kind);
   p.Value = value;

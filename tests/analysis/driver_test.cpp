@@ -33,9 +33,9 @@ TEST(CheckGrid, EightInnerPointLoadsGiveTwentySixPointsOutOfOrder) {
 
 TEST(CheckGrid, ALoadAtTheEndOrAtZeroAddsNoPointsButAZeroValueWithAPositionDoes) {
   State s = BeamState(5, 0);
-  AddPoint(s, 1, 0, 10, 5);   // at L
-  AddPoint(s, 2, 0, 10, 0);   // at 0
-  AddPoint(s, 3, 0, 0, 2);    // no value, but a position
+  AddPoint(s, 1, 0, 10, 5);  // at L
+  AddPoint(s, 2, 0, 10, 0);  // at 0
+  AddPoint(s, 3, 0, 0, 2);   // no value, but a position
   ComputeCheckGrid(s);
   EXPECT_EQ(s.analysis.NPoints, 12);
   EXPECT_FLOAT_EQ(s.analysis.ChPointXrel[11], 0.3996f);  // 2 * 0.999 / 5

@@ -46,7 +46,7 @@ TEST(MomentShape, AStraightDiagramIsNotCurvedAndTakesItsInnerMomentByAxis) {
   ForceExtremes(s);
   const MomentShape& y = s.analysis.ShapeY;
   const MomentShape& z = s.analysis.ShapeZ;
-  EXPECT_EQ(y.Psi, -0.5f);  // -5 / 10
+  EXPECT_EQ(y.Psi, -0.5f);    // -5 / 10
   EXPECT_EQ(y.Linear, True);  // M3 = 2.5 between p3 = 5.5 and p7 = -0.5
   EXPECT_EQ(z.Linear, True);
   // Peak in 12..38 at k = 12 (|6.4| against |-1.4| at 38). Left band: c1 = 8.2, w1 = 0.2 * -0.3 * 6
@@ -118,10 +118,12 @@ TEST(MomentShape, PsiIsSmallerOverLargerEndMomentWithItsSign) {
 
 TEST(Inflections, AFixedEndParabolaChangesSignNearAFifthFromEachEnd) {
   // M = 60 s - 60 s^2 - 10: -10 at the ends, +5 at midspan; exact zeros 0.5 -+ sqrt(1/12).
-  State s = WithMoments([](int k) {
-    const double x = k / 50.0;
-    return 60 * x - 60 * x * x - 10;
-  }, 2);
+  State s = WithMoments(
+      [](int k) {
+        const double x = k / 50.0;
+        return 60 * x - 60 * x * x - 10;
+      },
+      2);
   ForceExtremes(s);
   // M[10] = -0.4, M[11] = 0.296: 0.2 + (0.4 / 0.696) / 50 = 0.211494
   EXPECT_EQ(Printed(s.analysis.InflectionY1, "0.0000"), "0.2115");
@@ -131,10 +133,12 @@ TEST(Inflections, AFixedEndParabolaChangesSignNearAFifthFromEachEnd) {
 }
 
 TEST(Inflections, AreOnlyLookedForWhereAnEndIsHeld) {
-  State s = WithMoments([](int k) {
-    const double x = k / 50.0;
-    return 60 * x - 60 * x * x - 10;
-  }, 0);
+  State s = WithMoments(
+      [](int k) {
+        const double x = k / 50.0;
+        return 60 * x - 60 * x * x - 10;
+      },
+      0);
   s.analysis.InflectionY1 = 0.3f;
   ForceExtremes(s);
   EXPECT_EQ(s.analysis.InflectionY1, 0.0f);

@@ -141,7 +141,7 @@ TEST(LoadingButtons, RemoveAllCheckedLoadsClearsTheTickedRows) {
   s.loads.point[2] = {0, 5, 2, 0, 1, True};
   s.loads.point[3] = {0, 6, 3, 0, 1, False};
   Fire(s, "Loading.CmdRemove");
-  EXPECT_EQ(s.loads.axial[1].N, 0.0f);   // slot 1 of each table is ticked in a new project
+  EXPECT_EQ(s.loads.axial[1].N, 0.0f);  // slot 1 of each table is ticked in a new project
   EXPECT_EQ(s.loads.uniform[1].q, 0.0f);
   EXPECT_EQ(s.loads.point[2].Value, 0.0f);
   EXPECT_EQ(s.loads.point[2].x, 0.0f);
@@ -201,11 +201,10 @@ struct SupportCase {
 
 TEST(LoadingClose, PointLoadsWhereTheSupportTakesThemAreRemovedSilently) {
   const SupportCase cases[] = {
-      {4, 0, 5, true},   {0, 0, 5, false}, {2, 0, 5, false}, {5, 0, 5, false},
-      {0, 0, 0, false},  {4, 0, 0, false}, {0, 0, 2, true},  {0, 1, 5, true},
-      {3, 1, 5, true},   {1, 1, 5, false}, {5, 1, 5, false}, {0, 1, 0, true},
-      {1, 1, 0, true},   {5, 1, 0, true},  {3, 1, 0, true},  {2, 1, 0, false},
-      {4, 1, 0, false},  {2, 1, 5, false}, {4, 1, 2, true},
+      {4, 0, 5, true},  {0, 0, 5, false}, {2, 0, 5, false}, {5, 0, 5, false}, {0, 0, 0, false},
+      {4, 0, 0, false}, {0, 0, 2, true},  {0, 1, 5, true},  {3, 1, 5, true},  {1, 1, 5, false},
+      {5, 1, 5, false}, {0, 1, 0, true},  {1, 1, 0, true},  {5, 1, 0, true},  {3, 1, 0, true},
+      {2, 1, 0, false}, {4, 1, 0, false}, {2, 1, 5, false}, {4, 1, 2, true},
   };
   for (const SupportCase& c : cases) {
     State s = NewState();

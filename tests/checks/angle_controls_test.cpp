@@ -250,8 +250,7 @@ TEST(BucklingControlAngle, LineAboutVWithTheTurnedMoments) {
   EXPECT_TRUE(Near(k.MvMax, 0.70710678, kSolver));
   EXPECT_TRUE(Near(k.kvv, 1.0118639, kChain));
   EXPECT_EQ(k.kvu, k.kvv);
-  EXPECT_EQ(k.buckTextLT.Formula,
-            "IR = NEd/Nb,v,Rd  + kvv*Mv,Ed/Mv,Rd  + kvu*Mu,Ed/Mu,Rd  = ");
+  EXPECT_EQ(k.buckTextLT.Formula, "IR = NEd/Nb,v,Rd  + kvv*Mv,Ed/Mv,Rd  + kvu*Mu,Ed/Mu,Rd  = ");
   EXPECT_EQ(k.buckTextLT.Numbers, "30.0/276.4 + 1.01*0.7/6.5 + 1.01*0.7/14.8 = ");
   EXPECT_EQ(k.buckTextLT.Limit, " < 1.0 (Ch 6.3.3)");
   EXPECT_TRUE(Near(k.IRbuckLT, 0.26745826, kSolver));
@@ -264,8 +263,7 @@ TEST(BucklingControlAngle, MethodOneRunsWithoutPlasticModuli) {
   State s = Member("mnup10", "p10", 27, "2", "30", "2");
   Do(s, "setup.rbtnMethod1");
   EXPECT_EQ(s.project.calcError, 0);
-  EXPECT_EQ(s.checks.buckTextLT.Formula,
-            "IR = NEd/Nb,v,Rd  + kvv*Mv,Ed/Mv,Rd  + kvu*Mu,Ed/Mu,Rd  = ");
+  EXPECT_EQ(s.checks.buckTextLT.Formula, "IR = NEd/Nb,v,Rd  + kvv*Mv,Ed/Mv,Rd  + kvu*Mu,Ed/Mu,Rd  = ");
   EXPECT_EQ(s.checks.lamda0, 1);
   EXPECT_EQ(s.checks.CmLt, 1);
 }

@@ -28,8 +28,8 @@ inline void Do(State& s, const std::string& control, const std::string& text = {
 
 // A simply supported member of length L (m) with one section, loads in "Basic loads" mode: the
 // axial force N (kN, compression positive) in slot 1, a uniform load q (kN/m, in z) in slot 1.
-inline State Member(const std::string& menu, const std::string& dialog, int row, const char* L,
-                    const char* N, const char* q) {
+inline State Member(const std::string& menu, const std::string& dialog, int row, const char* L, const char* N,
+                    const char* q) {
   State s = StartedState();
   Do(s, menu);
   Do(s, dialog + ".cbo", std::to_string(row));

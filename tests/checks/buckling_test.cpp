@@ -117,16 +117,14 @@ TEST(SelectBucklingCurve, RolledSectionsByProportionThicknessAndSteel) {
     Single h, b, tf, fyk;
     const char *y, *z;
   } cases[] = {
-      {300, 150, 10.7f, 355, "a", "b"},   // IPE: h/b > 1.2, tf <= 40
-      {300, 150, 40, 355, "a", "b"},      // tf = 40 still thin
-      {300, 150, 41, 355, "b", "c"},      // tf > 40
-      {300, 150, 10.7f, 460, "a0", "a0"}, // S460
-      {300, 150, 41, 460, "a", "a"},
-      {200, 200, 15, 355, "b", "c"},      // HEB: h/b <= 1.2
-      {200, 200, 101, 355, "d", "d"},     // tf > 100
-      {200, 200, 15, 460, "a", "a"},
-      {200, 200, 101, 460, "c", "c"},
-      {360, 300, 22.5f, 440, "b", "c"},   // 440 is not yet high strength; h = 1.2 b exactly
+      {300, 150, 10.7f, 355, "a", "b"},                                   // IPE: h/b > 1.2, tf <= 40
+      {300, 150, 40, 355, "a", "b"},                                      // tf = 40 still thin
+      {300, 150, 41, 355, "b", "c"},                                      // tf > 40
+      {300, 150, 10.7f, 460, "a0", "a0"},                                 // S460
+      {300, 150, 41, 460, "a", "a"},      {200, 200, 15, 355, "b", "c"},  // HEB: h/b <= 1.2
+      {200, 200, 101, 355, "d", "d"},                                     // tf > 100
+      {200, 200, 15, 460, "a", "a"},      {200, 200, 101, 460, "c", "c"},
+      {360, 300, 22.5f, 440, "b", "c"},  // 440 is not yet high strength; h = 1.2 b exactly
   };
   for (const Case& c : cases) {
     State s = CurveState(2, c.h, c.b, c.tf, c.fyk);
@@ -281,10 +279,8 @@ TEST(BucklingCases, BiaxialBendingWithoutAxialForceKeepsTheSignOfMyAboutZ) {
 TEST(BucklingCases, AxialForceWithBothMomentsAddsFourTerms) {
   State s = test::Heb200("4", "300", "20");
   AddLoadInY(s, "5");
-  EXPECT_EQ(s.checks.buckTextY.Formula,
-            "IR = NEd/Nb,y,Rd +kyy*My,Ed/(xLT*My,Rd) +kyz*Mz,Ed/Mz,Rd ");
-  EXPECT_EQ(s.checks.buckTextZ.Formula,
-            "IR = NEd/Nb,z,Rd +kzy*My,Ed/(xLT*My,Rd) +kzz*Mz,Ed/Mz,Rd ");
+  EXPECT_EQ(s.checks.buckTextY.Formula, "IR = NEd/Nb,y,Rd +kyy*My,Ed/(xLT*My,Rd) +kyz*Mz,Ed/Mz,Rd ");
+  EXPECT_EQ(s.checks.buckTextZ.Formula, "IR = NEd/Nb,z,Rd +kzy*My,Ed/(xLT*My,Rd) +kzz*Mz,Ed/Mz,Rd ");
   // Mz = 5 * 4^2 / 8 = 10.0 kNm against Mz,Rd = Wpl,z fy = 305812.45 * 355 = 108.6 kNm.
   EXPECT_NE(s.checks.buckTextY.Numbers.find("*10.0/108.6"), std::string::npos);
 }

@@ -72,18 +72,18 @@ TEST(BeamColumn, MethodOneAgreesWithTheHandCalculation) {
     double Checks::*field;
     double value;
   } hand[] = {
-      {"Cmy0", &Checks::Cmy0, 1.0020329}, {"Cmz0", &Checks::Cmz0, 1.0057811},
+      {"Cmy0", &Checks::Cmy0, 1.0020329},   {"Cmz0", &Checks::Cmz0, 1.0057811},
       {"Mcr0", &Checks::Mcr0, 426.31011e6}, {"lamda0", &Checks::lamda0, 0.7314824},
-      {"aLT", &Checks::aLt, 0.9895927},   {"eps,y", &Checks::ey, 1.0966292},
-      {"Cmy", &Checks::Cmy, 1.0009983},   {"Cmz", &Checks::Cmz, 1.0057811},
-      {"CmLT", &Checks::CmLt, 1.1035873}, {"mu,y", &Checks::uy, 0.9878308},
-      {"mu,z", &Checks::uz, 0.8973363},   {"wy", &Checks::wy, 1.1280673},
-      {"npl", &Checks::npl, 0.1803856},   {"cLT", &Checks::cLt, 0.1787111},
-      {"eLT", &Checks::eLt, 0.2054932},   {"Cyy", &Checks::Cyy, 0.9771954},
-      {"Cyz", &Checks::Cyz, 0.9113339},   {"Czy", &Checks::Czy, 0.8566861},
-      {"Czz", &Checks::Czz, 0.9572953},   {"kyy", &Checks::kyy, 1.1978861},
-      {"kzy", &Checks::kzy, 0.6458341},   {"kyz", &Checks::kyz, 0.9343399},
-      {"kzz", &Checks::kzz, 1.1678304},   {"xLT", &Checks::xLT, 0.8451813},
+      {"aLT", &Checks::aLt, 0.9895927},     {"eps,y", &Checks::ey, 1.0966292},
+      {"Cmy", &Checks::Cmy, 1.0009983},     {"Cmz", &Checks::Cmz, 1.0057811},
+      {"CmLT", &Checks::CmLt, 1.1035873},   {"mu,y", &Checks::uy, 0.9878308},
+      {"mu,z", &Checks::uz, 0.8973363},     {"wy", &Checks::wy, 1.1280673},
+      {"npl", &Checks::npl, 0.1803856},     {"cLT", &Checks::cLt, 0.1787111},
+      {"eLT", &Checks::eLt, 0.2054932},     {"Cyy", &Checks::Cyy, 0.9771954},
+      {"Cyz", &Checks::Cyz, 0.9113339},     {"Czy", &Checks::Czy, 0.8566861},
+      {"Czz", &Checks::Czz, 0.9572953},     {"kyy", &Checks::kyy, 1.1978861},
+      {"kzy", &Checks::kzy, 0.6458341},     {"kyz", &Checks::kyz, 0.9343399},
+      {"kzz", &Checks::kzz, 1.1678304},     {"xLT", &Checks::xLT, 0.8451813},
       {"Mcr", &Checks::Mcr, 364.28081e6},
   };
   for (const auto& h : hand) EXPECT_TRUE(Near(k.*h.field, h.value, kChain)) << h.name;
@@ -147,7 +147,6 @@ State HebEndForces(const char* method, const char* N, const char* my1, const cha
   if (mz2) Do(s, "endforce.imz2", mz2);
   return s;
 }
-
 
 TEST(MethodOne, AnAxialForceAboveTheCriticalLoadEndsTheRunInTheMessage) {
   State s = BeamColumn(1);
@@ -322,14 +321,14 @@ TEST(CmTableB3, BranchesOfTheEndMomentAndMidspanRatios) {
     EquivalentMomentB(s);
     return s.checks.Cmy;
   };
-  EXPECT_NEAR(cm(true, false, 0.5, 0.5, 0), 0.6, 1e-7);            // 0.2 + 0.8 * 0.5
-  EXPECT_NEAR(cm(true, false, 0.5, 0.1, 0), 0.4, 1e-7);            // 0.28 held at 0.4
-  EXPECT_NEAR(cm(true, false, 0.5, -0.5, 0), 0.5, 1e-7);           // 0.1 + 0.4
-  EXPECT_NEAR(cm(false, false, 0.5, -0.75, 0), 0.6, 1e-7);         // 0.8 * 0.75
-  EXPECT_NEAR(cm(true, false, -0.5, -0.5, 0), 0.55, 1e-7);         // 0.1 * 1.5 + 0.4
-  EXPECT_NEAR(cm(false, false, -0.5, -0.5, 0), 0.5, 1e-7);         // 0.2 * 0.5 + 0.4
-  EXPECT_NEAR(cm(true, true, -0.25, 0, -0.5), 0.9375, 1e-7);       // 0.95 + 0.05 (-0.5)(0.5)
-  EXPECT_NEAR(cm(false, true, 0.5, 0, -0.5), 0.85, 1e-7);          // 0.9 + 0.1 (-0.5)
+  EXPECT_NEAR(cm(true, false, 0.5, 0.5, 0), 0.6, 1e-7);       // 0.2 + 0.8 * 0.5
+  EXPECT_NEAR(cm(true, false, 0.5, 0.1, 0), 0.4, 1e-7);       // 0.28 held at 0.4
+  EXPECT_NEAR(cm(true, false, 0.5, -0.5, 0), 0.5, 1e-7);      // 0.1 + 0.4
+  EXPECT_NEAR(cm(false, false, 0.5, -0.75, 0), 0.6, 1e-7);    // 0.8 * 0.75
+  EXPECT_NEAR(cm(true, false, -0.5, -0.5, 0), 0.55, 1e-7);    // 0.1 * 1.5 + 0.4
+  EXPECT_NEAR(cm(false, false, -0.5, -0.5, 0), 0.5, 1e-7);    // 0.2 * 0.5 + 0.4
+  EXPECT_NEAR(cm(true, true, -0.25, 0, -0.5), 0.9375, 1e-7);  // 0.95 + 0.05 (-0.5)(0.5)
+  EXPECT_NEAR(cm(false, true, 0.5, 0, -0.5), 0.85, 1e-7);     // 0.9 + 0.1 (-0.5)
   EXPECT_DOUBLE_EQ(s.checks.CmLt, s.checks.Cmy);
   s.section.ltbRelevant = 0;
   EquivalentMomentB(s);

@@ -58,12 +58,10 @@ TEST(SectionControlDefaultMember, AgreesWithTheHandCalculation) {
   EXPECT_TRUE(Near(k.IRsec[2], 0.128170, {1e-5, "ratio of a 5-digit hand calculation"}));
   EXPECT_TRUE(Near(k.IRsec[3], 0.044206, {1e-5, "ratio of a 5-digit hand calculation"}));
   EXPECT_TRUE(Near(s.analysis.IRsection, 0.128170, {1e-5, "ratio of a 5-digit hand calculation"}));
-  ExpectText(k.secText[1], "IR = My,Ed/My,Rd = ", "42.2/447.1 = ", "0.09",
-             " < 1.0 (0.50L; Ch 6.2.5)");
+  ExpectText(k.secText[1], "IR = My,Ed/My,Rd = ", "42.2/447.1 = ", "0.09", " < 1.0 (0.50L; Ch 6.2.5)");
   ExpectText(k.secText[2], "IR = NEd/NRd+My,Ed/My,Rd = ", "135.0/3993.8+42.2/447.1 = ", "0.13",
              " < 1.0 (0.50L; Ch 6.2.1/6.2.9)");
-  ExpectText(k.secText[3], "IR = Vz,Ed/Vz,Rd = ", "33.8/763.5 = ", "0.04",
-             " < 1.0 (0.00L; Ch 6.2.6)");
+  ExpectText(k.secText[3], "IR = Vz,Ed/Vz,Rd = ", "33.8/763.5 = ", "0.04", " < 1.0 (0.00L; Ch 6.2.6)");
   for (size_t g = 1; g <= 3; ++g) EXPECT_EQ(k.colSec[g], kGreen);
   for (size_t g = 4; g <= 6; ++g) EXPECT_TRUE(k.secText[g].Formula.empty());
 }
@@ -80,12 +78,10 @@ TEST(SectionControlDefaultMember, FixedEndsUnderHeavyLoadReduceForShear) {
   Fire(s, "cbutt2");
   Fire(s, "Loading.iq(1)", "150");
   const Checks& k = s.checks;
-  ExpectText(k.secText[1], "IR = My,Ed/MV,y,Rd = ", "421.9/443.4 = ", "0.95",
-             " < 1.0 (0.00L; Ch 6.2.8)");
+  ExpectText(k.secText[1], "IR = My,Ed/MV,y,Rd = ", "421.9/443.4 = ", "0.95", " < 1.0 (0.00L; Ch 6.2.8)");
   ExpectText(k.secText[2], "IR = NEd/NRd+My,Ed/MV,y,Rd = ", "135.0/3993.8+421.9/443.4 = ", "0.99",
              " < 1.0 (0.00L; Ch 6.2.1/6.2.9)");
-  ExpectText(k.secText[3], "IR = Vz,Ed/Vz,Rd = ", "506.3/763.5 = ", "0.66",
-             " < 1.0 (0.00L; Ch 6.2.6)");
+  ExpectText(k.secText[3], "IR = Vz,Ed/Vz,Rd = ", "506.3/763.5 = ", "0.66", " < 1.0 (0.00L; Ch 6.2.6)");
   EXPECT_TRUE(Near(k.IRsec[1], 0.951493, {1e-5, "ratio of a 6-digit hand calculation"}));
   EXPECT_TRUE(Near(k.IRsec[2], 0.985295, {1e-5, "ratio of a 6-digit hand calculation"}));
 }
@@ -101,8 +97,8 @@ struct LineCase {
   std::vector<PointForces> points;
   size_t group;
   const char *formula, *numbers, *ratio, *limit;
-  double ir = -1;     // the ratio of the hand calculation; < 0: not checked
-  int colour = -1;    // kGreen or kRed; < 0: not checked
+  double ir = -1;   // the ratio of the hand calculation; < 0: not checked
+  int colour = -1;  // kGreen or kRed; < 0: not checked
   Tolerance tol = kHandCalc;
   void (*more)(const State&) = nullptr;
 };
@@ -135,130 +131,355 @@ void BendingClassThree(State& s) {
 const LineCase kLines[] = {
     // ---- The winning rule
     // 100/200 = 0.5 at x = 0.2 and again at x = 0.8: the first stays.
-    {"tie names the first point", nullptr, 0, {{0.2f, 100, 0, 0, 0}, {0.8f, 100, 0, 0, 0}}, 1,
-     "IR = My,Ed/My,Rd = ", "100.0/200.0 = ", "0.50", " < 1.0 (0.20L; Ch 6.2.5)"},
+    {"tie names the first point",
+     nullptr,
+     0,
+     {{0.2f, 100, 0, 0, 0}, {0.8f, 100, 0, 0, 0}},
+     1,
+     "IR = My,Ed/My,Rd = ",
+     "100.0/200.0 = ",
+     "0.50",
+     " < 1.0 (0.20L; Ch 6.2.5)"},
     // 200/200 = 1 exactly: green, since red needs strictly more than 1.0.
-    {"ratio exactly one", nullptr, 0, {{0.5f, 200, 0, 0, 0}}, 1, nullptr, nullptr, "1.00", nullptr,
-     1.0, kGreen, kExact},
+    {"ratio exactly one",
+     nullptr,
+     0,
+     {{0.5f, 200, 0, 0, 0}},
+     1,
+     nullptr,
+     nullptr,
+     "1.00",
+     nullptr,
+     1.0,
+     kGreen,
+     kExact},
     // 200.25/200 = 1.00125: still "1.00", but red.
-    {"ratio just above one", nullptr, 0, {{0.5f, 200.25f, 0, 0, 0}}, 1, nullptr, nullptr, "1.00",
-     nullptr, -1, kRed},
+    {"ratio just above one",
+     nullptr,
+     0,
+     {{0.5f, 200.25f, 0, 0, 0}},
+     1,
+     nullptr,
+     nullptr,
+     "1.00",
+     nullptr,
+     -1,
+     kRed},
     // 240/200 = 1.2 at the first point, 0.5 at the second: the text and the red stay with the first.
-    {"colour follows the kept ratio", nullptr, 0, {{0.1f, 240, 0, 0, 0}, {0.9f, 100, 0, 0, 0}}, 1,
-     nullptr, nullptr, nullptr, " < 1.0 (0.10L; Ch 6.2.5)", -1, kRed},
+    {"colour follows the kept ratio",
+     nullptr,
+     0,
+     {{0.1f, 240, 0, 0, 0}, {0.9f, 100, 0, 0, 0}},
+     1,
+     nullptr,
+     nullptr,
+     nullptr,
+     " < 1.0 (0.10L; Ch 6.2.5)",
+     -1,
+     kRed},
 
     // ---- Axial force
     // 300/1200 = 0.25: compression takes NcRd.
-    {"compression", NcRd1200, 300, {{0, 0, 0, 0, 0}}, 1, "IR = NEd/NRd = ", "300.0/1200.0 = ",
-     "0.25", " < 1.0 (Ch 6.2.4)"},
+    {"compression",
+     NcRd1200,
+     300,
+     {{0, 0, 0, 0, 0}},
+     1,
+     "IR = NEd/NRd = ",
+     "300.0/1200.0 = ",
+     "0.25",
+     " < 1.0 (Ch 6.2.4)"},
     // |-400/1600| = 0.25: tension takes NtRd; the text keeps the sign of the force.
-    {"tension", NcRd1200, -400, {{0, 0, 0, 0, 0}}, 1, "IR = NEd/NRd = ", "-400.0/1600.0 = ", "0.25",
+    {"tension",
+     NcRd1200,
+     -400,
+     {{0, 0, 0, 0, 0}},
+     1,
+     "IR = NEd/NRd = ",
+     "-400.0/1600.0 = ",
+     "0.25",
      " < 1.0 (Ch 6.2.3)"},
 
     // ---- Shear at and above half the resistance
     // VzEd = 200 = 0.5*400: rhoZ = 0, so MyRd = 200 in both steps; only the texts differ.
     // NEd = 400: n = 0.25 against NtRd; 400 > 329 kN, so MN,y,Rd = 200*0.75/(1 - 0.5*0.4117647)
     // = 188.8889 and 100/188.8889 = 0.5294.
-    {"shear exactly half, step b", nullptr, 400, {{0.5f, 100, 0, 0, 200}}, 1,
-     "IR = My,Ed/MV,y,Rd = ", "100.0/200.0 = ", "0.50", " < 1.0 (0.50L; Ch 6.2.8)", -1, -1,
-     kHandCalc, [](const State& s) { EXPECT_EQ(s.checks.rhoZ, 0.0f); }},
-    {"shear exactly half, step e", nullptr, 400, {{0.5f, 100, 0, 0, 200}}, 2,
-     "IR = My,Ed/MN,y,Rd = ", "100.0/188.9 = ", "0.53", " < 1.0 (0.50L; Ch 6.2.9)", 0.5294118},
-    {"shear exactly half, shear line", nullptr, 400, {{0.5f, 100, 0, 0, 200}}, 3,
-     "IR = Vz,Ed/Vz,Rd = ", "200.0/400.0 = ", "0.50", " < 1.0 (0.50L; Ch 6.2.6)"},
+    {"shear exactly half, step b",
+     nullptr,
+     400,
+     {{0.5f, 100, 0, 0, 200}},
+     1,
+     "IR = My,Ed/MV,y,Rd = ",
+     "100.0/200.0 = ",
+     "0.50",
+     " < 1.0 (0.50L; Ch 6.2.8)",
+     -1,
+     -1,
+     kHandCalc,
+     [](const State& s) { EXPECT_EQ(s.checks.rhoZ, 0.0f); }},
+    {"shear exactly half, step e",
+     nullptr,
+     400,
+     {{0.5f, 100, 0, 0, 200}},
+     2,
+     "IR = My,Ed/MN,y,Rd = ",
+     "100.0/188.9 = ",
+     "0.53",
+     " < 1.0 (0.50L; Ch 6.2.9)",
+     0.5294118},
+    {"shear exactly half, shear line",
+     nullptr,
+     400,
+     {{0.5f, 100, 0, 0, 200}},
+     3,
+     "IR = Vz,Ed/Vz,Rd = ",
+     "200.0/400.0 = ",
+     "0.50",
+     " < 1.0 (0.50L; Ch 6.2.6)"},
     // VzEd = 240: rhoZ = (2*240/400 - 1)^2 = 0.04; R = 280^2*(10*0.04)/4/1e6*235 = 1.8424 kNm;
     // MyRd = 198.1576; MN,y,Rd = 198.1576*0.75/0.7941176 = 187.1488.
-    {"shear above half, step b", nullptr, 400, {{0.5f, 100, 0, 0, 240}}, 1,
-     "IR = My,Ed/MV,y,Rd = ", "100.0/198.2 = ", "0.50", " < 1.0 (0.50L; Ch 6.2.8)", 100 / 198.1576,
-     -1, kHandCalc, [](const State& s) { EXPECT_TRUE(Near(s.checks.rhoZ, 0.04, kHandCalc)); }},
-    {"shear above half, step e", nullptr, 400, {{0.5f, 100, 0, 0, 240}}, 2,
-     "IR = My,Ed/MVN,y,Rd = ", "100.0/187.1 = ", "0.53", " < 1.0 (0.50L; Ch 6.2.9)",
+    {"shear above half, step b",
+     nullptr,
+     400,
+     {{0.5f, 100, 0, 0, 240}},
+     1,
+     "IR = My,Ed/MV,y,Rd = ",
+     "100.0/198.2 = ",
+     "0.50",
+     " < 1.0 (0.50L; Ch 6.2.8)",
+     100 / 198.1576,
+     -1,
+     kHandCalc,
+     [](const State& s) { EXPECT_TRUE(Near(s.checks.rhoZ, 0.04, kHandCalc)); }},
+    {"shear above half, step e",
+     nullptr,
+     400,
+     {{0.5f, 100, 0, 0, 240}},
+     2,
+     "IR = My,Ed/MVN,y,Rd = ",
+     "100.0/187.1 = ",
+     "0.53",
+     " < 1.0 (0.50L; Ch 6.2.9)",
      100 / 187.1488444},
     // VzEd = 500 > 400: (2*500/400 - 1)^2 = 2.25, held at 1; the web is gone:
     // MyRd = 200 - 280^2*10/4/1e6*235 = 200 - 46.06 = 153.94; 100/153.94 = 0.6496, green.
-    {"shear above the resistance, bending", nullptr, 0, {{0.5f, 100, 0, 0, 500}}, 1, nullptr,
-     nullptr, nullptr, nullptr, -1, kGreen, kHandCalc, [](const State& s) {
+    {"shear above the resistance, bending",
+     nullptr,
+     0,
+     {{0.5f, 100, 0, 0, 500}},
+     1,
+     nullptr,
+     nullptr,
+     nullptr,
+     nullptr,
+     -1,
+     kGreen,
+     kHandCalc,
+     [](const State& s) {
        EXPECT_EQ(s.checks.rhoZ, 1.0f);
        EXPECT_TRUE(Near(s.checks.MyRd, 153.94, kHandCalc));
      }},
     // The shear line is red by itself: 500/400 = 1.25.
-    {"shear above the resistance, shear line", nullptr, 0, {{0.5f, 100, 0, 0, 500}}, 3,
-     "IR = Vz,Ed/Vz,Rd = ", "500.0/400.0 = ", "1.25", " < 1.0 (0.50L; Ch 6.2.6)", -1, kRed},
+    {"shear above the resistance, shear line",
+     nullptr,
+     0,
+     {{0.5f, 100, 0, 0, 500}},
+     3,
+     "IR = Vz,Ed/Vz,Rd = ",
+     "500.0/400.0 = ",
+     "1.25",
+     " < 1.0 (0.50L; Ch 6.2.6)",
+     -1,
+     kRed},
     // VbyRd = (1/1.5)*2*200*10*235/sqrt 3/1000 = 361.8062; 100/361.8062 = 0.2764.
-    {"shear along y", nullptr, 0, {{1, 0, 0, 100, 0}}, 3, "IR = Vy,Ed/Vy,Rd = ", "100.0/361.8 = ",
-     "0.28", " < 1.0 (1.00L; Ch 6.2.6)"},
+    {"shear along y",
+     nullptr,
+     0,
+     {{1, 0, 0, 100, 0}},
+     3,
+     "IR = Vy,Ed/Vy,Rd = ",
+     "100.0/361.8 = ",
+     "0.28",
+     " < 1.0 (1.00L; Ch 6.2.6)"},
 
     // ---- Interaction
-    {"one moment without axial force", nullptr, 0, {{0.5f, 100, 0, 0, 0}}, 2, "", nullptr,
-     nullptr, nullptr},
+    {"one moment without axial force", nullptr, 0, {{0.5f, 100, 0, 0, 0}}, 2, "", nullptr, nullptr, nullptr},
     // [100/200]^2 + (30/60)^1 = 0.25 + 0.5 = 0.75; beta = 1 with no axial force.
     // Group 1: My 0.5 first, Mz 0.5 ties and loses.
-    {"biaxial plastic, group 1", nullptr, 0, {{0.5f, 100, 30, 0, 0}}, 1, "IR = My,Ed/My,Rd = ",
-     "100.0/200.0 = ", "0.50", " < 1.0 (0.50L; Ch 6.2.5)"},
-    {"biaxial plastic, group 2", nullptr, 0, {{0.5f, 100, 30, 0, 0}}, 2,
-     "IR = [My,Ed/My,Rd]^alfa + [Mz,Ed/Mz,Rd]^beta = ", "[100.0/200.0]^2.00+(30.0/60.0)^1.00 = ",
-     "0.75", " < 1.0 (0.50L; Ch 6.2.5/6.2.9)"},
+    {"biaxial plastic, group 1",
+     nullptr,
+     0,
+     {{0.5f, 100, 30, 0, 0}},
+     1,
+     "IR = My,Ed/My,Rd = ",
+     "100.0/200.0 = ",
+     "0.50",
+     " < 1.0 (0.50L; Ch 6.2.5)"},
+    {"biaxial plastic, group 2",
+     nullptr,
+     0,
+     {{0.5f, 100, 30, 0, 0}},
+     2,
+     "IR = [My,Ed/My,Rd]^alfa + [Mz,Ed/Mz,Rd]^beta = ",
+     "[100.0/200.0]^2.00+(30.0/60.0)^1.00 = ",
+     "0.75",
+     " < 1.0 (0.50L; Ch 6.2.5/6.2.9)"},
     // VzEd = 300: rhoZ = 0.25, MyRd = 200 - 11.515 = 188.485; VyEd = 375: rhoY = 0.25,
     // MzRd = 60 - 200^2*(2*0.25*10)/4/1e6*235 = 60 - 11.75 = 48.25.
     // (100/188.485)^2 + 30/48.25 = 0.281484 + 0.621762 = 0.903246
-    {"biaxial with high shear", nullptr, 0, {{0.5f, 100, 30, 375, 300}}, 2,
-     "IR = [My,Ed/MV,y,Rd]^alfa + [Mz,Ed/MV,z,Rd]^beta = ", "[100.0/188.5]^2.00+(30.0/48.3)^1.00 = ",
-     "0.90", " < 1.0 (0.50L; Ch 6.2.5/6.2.9)", 0.903246, -1, kFiveDigits},
+    {"biaxial with high shear",
+     nullptr,
+     0,
+     {{0.5f, 100, 30, 375, 300}},
+     2,
+     "IR = [My,Ed/MV,y,Rd]^alfa + [Mz,Ed/MV,z,Rd]^beta = ",
+     "[100.0/188.5]^2.00+(30.0/48.3)^1.00 = ",
+     "0.90",
+     " < 1.0 (0.50L; Ch 6.2.5/6.2.9)",
+     0.903246,
+     -1,
+     kFiveDigits},
     // 100/200 + 30/60 = 1.00: green, since red needs strictly more than 1.0.
-    {"conservative, no axial force", Conservative, 0, {{0.5f, 100, 30, 0, 0}}, 2,
-     "IR = My,Ed/My,Rd + Mz,Ed/Mz,Rd = ", "100.0/200.0 + 30.0/60.0 = ", "1.00",
-     " < 1.0 (0.50L; Ch 6.2.1)", -1, kGreen},
+    {"conservative, no axial force",
+     Conservative,
+     0,
+     {{0.5f, 100, 30, 0, 0}},
+     2,
+     "IR = My,Ed/My,Rd + Mz,Ed/Mz,Rd = ",
+     "100.0/200.0 + 30.0/60.0 = ",
+     "1.00",
+     " < 1.0 (0.50L; Ch 6.2.1)",
+     -1,
+     kGreen},
     // With N: e and f take the linear form too, g gives 400/1600 + 100/200 + 30/60 = 1.25, red,
     // and the class returns to that of pure bending.
-    {"conservative with axial force", Conservative, 400, {{0.5f, 100, 30, 0, 0}}, 2,
-     "IR = NEd/NRd+My,Ed/My,Rd+Mz,Ed/Mz,Rd = ", "400.0/1600.0+100.0/200.0+30.0/60.0 = ", "1.25",
-     " < 1.0 (0.50L; Ch 6.2.1/6.2.9)", -1, kRed, kHandCalc,
+    {"conservative with axial force",
+     Conservative,
+     400,
+     {{0.5f, 100, 30, 0, 0}},
+     2,
+     "IR = NEd/NRd+My,Ed/My,Rd+Mz,Ed/Mz,Rd = ",
+     "400.0/1600.0+100.0/200.0+30.0/60.0 = ",
+     "1.25",
+     " < 1.0 (0.50L; Ch 6.2.1/6.2.9)",
+     -1,
+     kRed,
+     kHandCalc,
      [](const State& s) { EXPECT_EQ(s.checks.classCur, 1); }},
     // NEd = 400: n = 0.25, beta = 1.25. Class under N + My and under N + Mz: 1.
     // MN,y,Rd = 188.8889 (400 > 329); MN,z,Rd: n = 0.25 <= a = 0.4118, so 60.
     // e: 100/188.8889 = 0.529412; f: 30/60 = 0.5, loses;
     // g: (100/188.8889)^2 + (30/60)^1.25 = 0.280277 + 0.420448 = 0.700725, wins.
-    {"axial force with both moments", nullptr, 400, {{0.5f, 100, 30, 0, 0}}, 2,
-     "IR = (My,Ed/MN,y,Rd)^alfa  + (Mz,Ed/MN,z,Rd)^beta = ", "(100.0/188.9)^2.00+(30.0/60.0)^1.25 = ",
-     "0.70", " < 1.0 (0.50L; Ch 6.2.9)", 0.7007250, -1, kHandCalc, [](const State& s) {
+    {"axial force with both moments",
+     nullptr,
+     400,
+     {{0.5f, 100, 30, 0, 0}},
+     2,
+     "IR = (My,Ed/MN,y,Rd)^alfa  + (Mz,Ed/MN,z,Rd)^beta = ",
+     "(100.0/188.9)^2.00+(30.0/60.0)^1.25 = ",
+     "0.70",
+     " < 1.0 (0.50L; Ch 6.2.9)",
+     0.7007250,
+     -1,
+     kHandCalc,
+     [](const State& s) {
        EXPECT_EQ(s.checks.classNMy, 1);
        EXPECT_EQ(s.checks.classNMz, 1);
      }},
     // NEd = -400: class 1 under tension and bending; MN,y,Rd = 188.8889 as in compression.
-    {"tension with moment", nullptr, -400, {{0.5f, 100, 0, 0, 0}}, 2, "IR = My,Ed/MN,y,Rd = ",
-     "100.0/188.9 = ", "0.53", " < 1.0 (0.50L; Ch 6.2.9)"},
+    {"tension with moment",
+     nullptr,
+     -400,
+     {{0.5f, 100, 0, 0, 0}},
+     2,
+     "IR = My,Ed/MN,y,Rd = ",
+     "100.0/188.9 = ",
+     "0.53",
+     " < 1.0 (0.50L; Ch 6.2.9)"},
     // |-400/1600| + 100/200 = 0.75
-    {"tension with moment, conservative", Conservative, -400, {{0.5f, 100, 0, 0, 0}}, 2,
-     "IR = NEd/NRd+My,Ed/My,Rd = ", "-400.0/1600.0+100.0/200.0 = ", "0.75",
+    {"tension with moment, conservative",
+     Conservative,
+     -400,
+     {{0.5f, 100, 0, 0, 0}},
+     2,
+     "IR = NEd/NRd+My,Ed/My,Rd = ",
+     "-400.0/1600.0+100.0/200.0 = ",
+     "0.75",
      " < 1.0 (0.50L; Ch 6.2.1/6.2.9)"},
     // NEd = 2000: n = 1.25, MN,y,Rd = 200*(1 - 1.25)/0.7941176 = -62.96 and the ratio is negative:
     // group 2 stays empty; group 1 shows the overload 2000/1600 = 1.25.
-    {"beyond NtRd, group 2", nullptr, 2000, {{0.5f, 100, 0, 0, 0}}, 2, "", nullptr, nullptr,
-     nullptr},
-    {"beyond NtRd, group 1", nullptr, 2000, {{0.5f, 100, 0, 0, 0}}, 1, "IR = NEd/NRd = ",
-     "2000.0/1600.0 = ", "1.25", " < 1.0 (Ch 6.2.4)", -1, kRed},
+    {"beyond NtRd, group 2", nullptr, 2000, {{0.5f, 100, 0, 0, 0}}, 2, "", nullptr, nullptr, nullptr},
+    {"beyond NtRd, group 1",
+     nullptr,
+     2000,
+     {{0.5f, 100, 0, 0, 0}},
+     1,
+     "IR = NEd/NRd = ",
+     "2000.0/1600.0 = ",
+     "1.25",
+     " < 1.0 (Ch 6.2.4)",
+     -1,
+     kRed},
 
     // ---- Class 3 and class 4
     // b: 100/170 = 0.588235; the elastic modulus is the active one.
-    {"class 3, bending", ClassThree, 400, {{0.5f, 100, 0, 0, 0}}, 1, "IR = My,Ed/My,Rd = ",
-     "100.0/170.0 = ", "0.59", " < 1.0 (0.50L; Ch 6.2.5)", -1, -1, kHandCalc,
+    {"class 3, bending",
+     ClassThree,
+     400,
+     {{0.5f, 100, 0, 0, 0}},
+     1,
+     "IR = My,Ed/My,Rd = ",
+     "100.0/170.0 = ",
+     "0.59",
+     " < 1.0 (0.50L; Ch 6.2.5)",
+     -1,
+     -1,
+     kHandCalc,
      [](const State& s) { EXPECT_EQ(s.section.Wy, 900.0f); }},
     // e: 400/1600 + 100/170 = 0.838235.
-    {"class 3, linear sum", ClassThree, 400, {{0.5f, 100, 0, 0, 0}}, 2,
-     "IR = NEd/NRd+My,Ed/My,Rd = ", "400.0/1600.0+100.0/170.0 = ", "0.84",
+    {"class 3, linear sum",
+     ClassThree,
+     400,
+     {{0.5f, 100, 0, 0, 0}},
+     2,
+     "IR = NEd/NRd+My,Ed/My,Rd = ",
+     "400.0/1600.0+100.0/170.0 = ",
+     "0.84",
      " < 1.0 (0.50L; Ch 6.2.1/6.2.9)"},
     // b: 100/160 = 0.625, with the effective modulus.
-    {"class 4, bending", ClassFour, 400, {{0.5f, 100, 0, 0, 0}}, 1, "IR = My,Ed/My,Rd = ",
-     "100.0/160.0 = ", "0.63", " < 1.0 (0.50L; Ch 6.2.5)", -1, -1, kHandCalc,
+    {"class 4, bending",
+     ClassFour,
+     400,
+     {{0.5f, 100, 0, 0, 0}},
+     1,
+     "IR = My,Ed/My,Rd = ",
+     "100.0/160.0 = ",
+     "0.63",
+     " < 1.0 (0.50L; Ch 6.2.5)",
+     -1,
+     -1,
+     kHandCalc,
      [](const State& s) { EXPECT_EQ(s.section.Wy, 800.0f); }},
     // e: the class under N + M is 4, so the linear sum with NcRd and MeffyRd:
     // 400/1200 + 100/160 = 0.958333.
-    {"class 4, linear sum", ClassFour, 400, {{0.5f, 100, 0, 0, 0}}, 2,
-     "IR = NEd/NRd+My,Ed/My,Rd = ", "400.0/1200.0+100.0/160.0 = ", "0.96",
+    {"class 4, linear sum",
+     ClassFour,
+     400,
+     {{0.5f, 100, 0, 0, 0}},
+     2,
+     "IR = NEd/NRd+My,Ed/My,Rd = ",
+     "400.0/1200.0+100.0/160.0 = ",
+     "0.96",
      " < 1.0 (0.50L; Ch 6.2.1/6.2.9)"},
     // The plastic 200 is capped at 170; MN,y,Rd = 170*0.75/0.7941176 = 160.5556.
-    {"plastic N+M value capped by the bending class", BendingClassThree, 400,
-     {{0.5f, 100, 0, 0, 0}}, 2, "IR = My,Ed/MN,y,Rd = ", "100.0/160.6 = ", "0.62",
+    {"plastic N+M value capped by the bending class",
+     BendingClassThree,
+     400,
+     {{0.5f, 100, 0, 0, 0}},
+     2,
+     "IR = My,Ed/MN,y,Rd = ",
+     "100.0/160.6 = ",
+     "0.62",
      " < 1.0 (0.50L; Ch 6.2.9)"},
 };
 
@@ -270,13 +491,27 @@ TEST(SectionControlLines, AgreeWithTheHandCalculation) {
     SetPoints(s, c.NEd, c.points);
     SectionControlI(s);
     const ControlText& t = s.checks.secText[c.group];
-    if (c.formula) { EXPECT_EQ(t.Formula, c.formula); }
-    if (c.formula && !*c.formula) { EXPECT_EQ(s.checks.IRsec[c.group], 0.0); }
-    if (c.numbers) { EXPECT_EQ(t.Numbers, c.numbers); }
-    if (c.ratio) { EXPECT_EQ(t.Ratio, c.ratio); }
-    if (c.limit) { EXPECT_EQ(t.Limit, c.limit); }
-    if (c.ir >= 0) { EXPECT_TRUE(Near(s.checks.IRsec[c.group], c.ir, c.tol)); }
-    if (c.colour >= 0) { EXPECT_EQ(s.checks.colSec[c.group], c.colour); }
+    if (c.formula) {
+      EXPECT_EQ(t.Formula, c.formula);
+    }
+    if (c.formula && !*c.formula) {
+      EXPECT_EQ(s.checks.IRsec[c.group], 0.0);
+    }
+    if (c.numbers) {
+      EXPECT_EQ(t.Numbers, c.numbers);
+    }
+    if (c.ratio) {
+      EXPECT_EQ(t.Ratio, c.ratio);
+    }
+    if (c.limit) {
+      EXPECT_EQ(t.Limit, c.limit);
+    }
+    if (c.ir >= 0) {
+      EXPECT_TRUE(Near(s.checks.IRsec[c.group], c.ir, c.tol));
+    }
+    if (c.colour >= 0) {
+      EXPECT_EQ(s.checks.colSec[c.group], c.colour);
+    }
     if (c.more) c.more(s);
   }
 }

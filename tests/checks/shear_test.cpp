@@ -53,10 +53,9 @@ TEST(ShearResistance, RigidEndPostChangesFormulaJustAboveOnePointZeroEight) {
   // Without the rigid end post the same web keeps 0.83/lamda.
   s.project.rigidEndPost = 0;
   ComputeShearResistances(s, 0, 0);
-  EXPECT_TRUE(
-      Near(s.section.VbzRd,
-           0.83 / 1.0800000649911385 * 10 * 933.1200561523438 * 235 / 1.7320508075688772 / 1000,
-           kHandCalc));
+  EXPECT_TRUE(Near(s.section.VbzRd,
+                   0.83 / 1.0800000649911385 * 10 * 933.1200561523438 * 235 / 1.7320508075688772 / 1000,
+                   kHandCalc));
 }
 
 TEST(ShearResistance, StiffenersCloserThanTheWebIsDeep) {

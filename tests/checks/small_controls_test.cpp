@@ -23,8 +23,8 @@ void ExpectText(const ControlText& t, const char* formula, const char* numbers, 
 }
 
 // A member of the family under basic loads: N in slot 1 (compression positive), q in slot 1.
-State Member(const char* menu, std::initializer_list<std::pair<const char*, const char*>> dims,
-             const char* N, const char* q) {
+State Member(const char* menu, std::initializer_list<std::pair<const char*, const char*>> dims, const char* N,
+             const char* q) {
   State s = StartedState();
   Fire(s, menu);
   for (const auto& [field, value] : dims) Fire(s, field, value);

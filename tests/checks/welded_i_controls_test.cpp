@@ -73,8 +73,7 @@ TEST(SectionControlSingleSym, AxialForceWithHoggingUsesTheFamilysWebShare) {
   const Checks& k = s.checks;
   EXPECT_TRUE(Near(k.MNyRd, 820.947, kHandCalc));
   EXPECT_TRUE(Near(k.IRsec[2], 0.365432, kHandCalc));
-  ExpectText(k.secText[2], "IR = My,Ed/MN,y,Rd = ", "300.0/820.9 = ", "0.37",
-             " < 1.0 (0.50L; Ch 6.2.9)");
+  ExpectText(k.secText[2], "IR = My,Ed/MN,y,Rd = ", "300.0/820.9 = ", "0.37", " < 1.0 (0.50L; Ch 6.2.9)");
 }
 
 // Shear above half VzRd reduces the plastic resistance of the hogging side with hw^2 tw/4:

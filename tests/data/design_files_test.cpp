@@ -79,38 +79,38 @@ TEST(SetupFile, HoldsTwentyNineDefaultsEachInsideItsLimit) {
     EXPECT_TRUE(PlainInteger(v.at(static_cast<size_t>(line - 1)), n)) << "line " << line << " is an Integer";
     return n;
   };
-  EXPECT_EQ(whole(1), 120);                                  // version
+  EXPECT_EQ(whole(1), 120);  // version
   const std::set<std::string> codes{"\"EU\"", "\"NO\"", "\"SW\"", "\"DK\"", "\"UK\"",
                                     "\"FI\"", "\"GE\"", "\"NK\"", "\"UD\""};
-  EXPECT_TRUE(codes.count(v[1])) << v[1];                    // codeId, in double quotes
+  EXPECT_TRUE(codes.count(v[1])) << v[1];  // codeId, in double quotes
   EXPECT_EQ(v[1], "\"EU\"");
-  EXPECT_TRUE(Within(num(3), 0.5, 1.5)) << "line 3";            // gammaM0 " 0.5 <= gammam0 <=1.5 "
-  EXPECT_TRUE(Within(num(4), 0.5, 1.5)) << "line 4";            // gammaM1
-  EXPECT_TRUE(Within(num(5), 1.0, 1.2)) << "line 5";            // neta " 1 <= neta <=1.2 "
-  EXPECT_TRUE(whole(6) == 1 || whole(6) == 2);               // interactionMethod
-  EXPECT_TRUE(Within(num(7), 0.1, 0.8)) << "line 7";            // lamdaLT0
-  EXPECT_TRUE(Within(num(8), 0.1, 1.0)) << "line 8";            // beta
-  EXPECT_TRUE(Within(num(9), 0.1, 0.8)) << "line 9";            // lamdaLT0w
-  EXPECT_TRUE(Within(num(10), 0.1, 1.0)) << "line 10";          // betaw
+  EXPECT_TRUE(Within(num(3), 0.5, 1.5)) << "line 3";    // gammaM0 " 0.5 <= gammam0 <=1.5 "
+  EXPECT_TRUE(Within(num(4), 0.5, 1.5)) << "line 4";    // gammaM1
+  EXPECT_TRUE(Within(num(5), 1.0, 1.2)) << "line 5";    // neta " 1 <= neta <=1.2 "
+  EXPECT_TRUE(whole(6) == 1 || whole(6) == 2);          // interactionMethod
+  EXPECT_TRUE(Within(num(7), 0.1, 0.8)) << "line 7";    // lamdaLT0
+  EXPECT_TRUE(Within(num(8), 0.1, 1.0)) << "line 8";    // beta
+  EXPECT_TRUE(Within(num(9), 0.1, 0.8)) << "line 9";    // lamdaLT0w
+  EXPECT_TRUE(Within(num(10), 0.1, 1.0)) << "line 10";  // betaw
   // steelGrade: a catalogued row of the steel grade file, not the user row; fyk its value up to 40 mm.
   const std::vector<std::string> grades = Lines("VarneltECmat.dat");
   const int grade = whole(11);
   ASSERT_GE(grade, 0);
   ASSERT_LT(grade, static_cast<int>(grades.size()) - 1);
   EXPECT_EQ(num(12), std::stod(Fields(grades[static_cast<size_t>(grade)])[1]));
-  EXPECT_TRUE(Within(num(12), 50, 2000)) << "line 12";          // fyk " 50 <= fyk <= 2000 "
-  EXPECT_GE(num(13), 1000);                                  // E " 1000 <= E-modulus "
+  EXPECT_TRUE(Within(num(12), 50, 2000)) << "line 12";  // fyk " 50 <= fyk <= 2000 "
+  EXPECT_GE(num(13), 1000);                             // E " 1000 <= E-modulus "
   EXPECT_EQ(num(13), 210000);
-  EXPECT_TRUE(Within(num(14), 0, 0.4)) << "line 14";            // uflimit " 0 <= uflimit <= 0.4 "
-  for (int line = 15; line <= 18; ++line)                    // the four check boxes
+  EXPECT_TRUE(Within(num(14), 0, 0.4)) << "line 14";  // uflimit " 0 <= uflimit <= 0.4 "
+  for (int line = 15; line <= 18; ++line)             // the four check boxes
     EXPECT_TRUE(v[line - 1] == "#TRUE#" || v[line - 1] == "#FALSE#") << "line " << line;
-  EXPECT_TRUE(Within(whole(19), 0, 5)) << "line 19";          // LoadCombMode, six modes
-  EXPECT_TRUE(Within(whole(20), 100, 1500)) << "line 20";     // deflectionLimit
-  EXPECT_TRUE(Within(whole(21), 1, 3)) << "line 21";          // safetyClass
-  EXPECT_TRUE(Within(whole(22), 0, 9)) << "line 22";          // psi list index: "0.1" to "1.0"
+  EXPECT_TRUE(Within(whole(19), 0, 5)) << "line 19";       // LoadCombMode, six modes
+  EXPECT_TRUE(Within(whole(20), 100, 1500)) << "line 20";  // deflectionLimit
+  EXPECT_TRUE(Within(whole(21), 1, 3)) << "line 21";       // safetyClass
+  EXPECT_TRUE(Within(whole(22), 0, 9)) << "line 22";       // psi list index: "0.1" to "1.0"
   EXPECT_TRUE(Within(whole(23), 0, 9)) << "line 23";
-  EXPECT_EQ(whole(22), 6);                                   // psi0 = (6 + 1) * 0.1 = 0.7
-  for (int line = 24; line <= 29; ++line)                    // load factors " 0 < Loadfactor < 4.0 "
+  EXPECT_EQ(whole(22), 6);                 // psi0 = (6 + 1) * 0.1 = 0.7
+  for (int line = 24; line <= 29; ++line)  // load factors " 0 < Loadfactor < 4.0 "
     EXPECT_TRUE(num(line) >= 0 && num(line) <= 4) << "line " << line;
   EXPECT_EQ(num(24), 1.35);
   EXPECT_EQ(num(25), 1.5);

@@ -58,8 +58,7 @@ TEST(CombinationFactors, KfiByCodeAndClass) {
   } rows[] = {{0, 1, 1.0f}, {4, 1, 1.0f}, {6, 1, 1.0f},  {8, 1, 1.0f},  {1, 1, 0.9f}, {1, 2, 1.0f},
               {7, 1, 0.9f}, {7, 2, 1.0f}, {2, 1, 0.83f}, {2, 2, 0.91f}, {2, 3, 1.0f}, {2, 0, 1.0f},
               {3, 2, 1.0f}, {3, 3, 1.1f}, {5, 1, 0.9f},  {5, 2, 1.0f},  {5, 3, 1.1f}, {5, 0, 1.1f}};
-  for (const auto& r : rows)
-    EXPECT_EQ(StateWith(r.code, r.cls).comb.KFI, r.kfi) << r.code << "/" << r.cls;
+  for (const auto& r : rows) EXPECT_EQ(StateWith(r.code, r.cls).comb.KFI, r.kfi) << r.code << "/" << r.cls;
 }
 
 TEST(CombinationFactors, KfigFollowsKfiInSwedenDenmarkFinlandOnly) {
@@ -119,8 +118,7 @@ TEST(FormulaTexts, PlainCodesShowPsi1AtQ2InEq610) {
 
 TEST(FormulaTexts, UnitedKingdomXiShowsThreeDecimals) {
   // xi 0.925 under "0.0##"
-  EXPECT_EQ(StateWith(4, 2).comb.text610b,
-            "ULS: Eq 6.10b: LC = 0.925*1.35*G + 1.5*Q1 + 1.5*0.5*Q2");
+  EXPECT_EQ(StateWith(4, 2).comb.text610b, "ULS: Eq 6.10b: LC = 0.925*1.35*G + 1.5*Q1 + 1.5*0.5*Q2");
 }
 
 TEST(FormulaTexts, NorwayAndNorsokWithKfi) {

@@ -304,13 +304,11 @@ TEST(SetupDialog, ActivateFillsTheFieldsAndListsFromTheRecord) {
   EXPECT_EQ(v.items["setup.cbofyk"].size(), 8u);
   EXPECT_EQ(v.items["setup.cbofyk"][2], "S355");
   EXPECT_EQ(v.value["setup.cbofyk"], 2);
-  const std::vector<std::string> modes = {"EN 1990 Eq 6.10",  "EN 1990 Eq 6.10a",
-                                          "EN 1990 Eq 6.10b", "EN 1990 Eq 6.10a/b",
-                                          "ULS/SLS",          "Basic loads"};
+  const std::vector<std::string> modes = {"EN 1990 Eq 6.10",    "EN 1990 Eq 6.10a", "EN 1990 Eq 6.10b",
+                                          "EN 1990 Eq 6.10a/b", "ULS/SLS",          "Basic loads"};
   EXPECT_EQ(v.items["setup.CboLoadComb"], modes);
   EXPECT_EQ(v.value["setup.CboLoadComb"], 4);
-  const std::vector<std::string> psi = {"0.1", "0.2", "0.3", "0.4", "0.5",
-                                        "0.6", "0.7", "0.8", "0.9", "1.0"};
+  const std::vector<std::string> psi = {"0.1", "0.2", "0.3", "0.4", "0.5", "0.6", "0.7", "0.8", "0.9", "1.0"};
   EXPECT_EQ(v.items["setup.Cbo_Q1_Psi1"], psi);
   EXPECT_EQ(v.items["setup.Cbo_Q2_Psi2"], psi);
   EXPECT_EQ(v.value["setup.Cbo_Q1_Psi1"], 6);

@@ -62,8 +62,7 @@ TEST(SteelGradeFile, ShortOrBadLinesLeaveZerosAndTheReadingGoesOn) {
 TEST(SteelGradeFile, MoreThan31LinesLeaveNoUserRow) {
   TempFolder dir;
   std::string text;
-  for (int i = 0; i < 34; ++i)
-    text += "G" + std::to_string(i) + "\t" + std::to_string(200 + i) + "\t100\n";
+  for (int i = 0; i < 34; ++i) text += "G" + std::to_string(i) + "\t" + std::to_string(200 + i) + "\t100\n";
   dir.Write(kSteelGradeFile, text);
   State s = StateReading(dir);
   EXPECT_EQ(s.steel.gradeLast, 33);  // 34 lines - 1: beyond the last row 30

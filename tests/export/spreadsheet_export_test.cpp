@@ -91,7 +91,7 @@ TEST_F(ExportFiles, CsvHoldsAllFiftyFiveRowsAndReadsBackExactly) {
   EXPECT_EQ(text.substr(0, 34), " Parameter,Value,unit, Reference\r\n");
   EXPECT_NE(text.find("\r\n Mcr,\"123,457\", kNm,\r\n"), std::string::npos);
   EXPECT_NE(text.find("\r\n Other,,,\r\n,,,\r\n"), std::string::npos);  // empty rows stay empty
-  EXPECT_EQ(FilesInFolder(), 1);  // no temporary file left beside it
+  EXPECT_EQ(FilesInFolder(), 1);                                        // no temporary file left beside it
 }
 
 TEST_F(ExportFiles, AnExistingFileIsReplacedWhole) {
@@ -154,8 +154,7 @@ TEST_F(ExportFiles, XlsxIsAZipWorkbookWithTheCellsAsText) {
   // Text cells, the leading blanks kept.
   EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Parameter</t>"), std::string::npos);
   EXPECT_NE(strings.find("<t>123.457</t>"), std::string::npos);
-  EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Lateral Buckling Factors</t>"),
-            std::string::npos);
+  EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Lateral Buckling Factors</t>"), std::string::npos);
   // Every cell is a string cell, and an empty cell of the grid is no cell at all.
   size_t filled = 0;
   for (const DetailRow& r : t.rows)

@@ -351,9 +351,12 @@ class FormsTest : public QObject {
 
   void sectionValuesFallIntoTheirThreeFrames() {
     using Line = vn::View::Line;
-    std::vector<Line> lines{{"h =", "190", " mm"},     {"b =", "200", " mm"},
-                            {"A =", "5383", " mm2"},   {"Iy =", "3.692E+7", " mm4"},
-                            {"g =", "42.3", " kg/m"},  {"S =", "1.136", " m2/m"},
+    std::vector<Line> lines{{"h =", "190", " mm"},
+                            {"b =", "200", " mm"},
+                            {"A =", "5383", " mm2"},
+                            {"Iy =", "3.692E+7", " mm4"},
+                            {"g =", "42.3", " kg/m"},
+                            {"S =", "1.136", " m2/m"},
                             {"Cross Section Class: ", "1/1/1", "(N/My/Mz)"},
                             {"Nc,Rd =", "1265.0", " kN"}};
     SectionBlocks b = SplitSectionValues(lines);
@@ -371,16 +374,25 @@ class FormsTest : public QObject {
     s.view.value["p01.cbo"] = 1;
     s.project.ProfileType = 1;
     // HEA 120 as the rolled section tables give it.
-    s.view.sectionValues = {{"h =", "114", " mm"},          {"b =", "120", " mm"},
-                            {"tf =", "8.0", " mm"},         {"tw =", "5.0", " mm"},
-                            {"r =", "12", " mm"},           {"A =", "2534", " mm2"},
-                            {"Ix =", "5.990E+4", " mm4"},   {"Iy =", "6.062E+6", " mm4"},
-                            {"Iz =", "2.309E+6", " mm4"},   {"Wel,y =", "1.063E+5", " mm3"},
-                            {"Wel,z =", "3.848E+4", " mm3"}, {"Wpl,y =", "1.195E+5", " mm3"},
-                            {"Wpl,z =", "5.885E+4", " mm3"}, {"Iw =", "6.472E+9", " mm6"},
-                            {"g =", "19.9", " kg/m"},       {"S =", "0.677", " m2/m"},
+    s.view.sectionValues = {{"h =", "114", " mm"},
+                            {"b =", "120", " mm"},
+                            {"tf =", "8.0", " mm"},
+                            {"tw =", "5.0", " mm"},
+                            {"r =", "12", " mm"},
+                            {"A =", "2534", " mm2"},
+                            {"Ix =", "5.990E+4", " mm4"},
+                            {"Iy =", "6.062E+6", " mm4"},
+                            {"Iz =", "2.309E+6", " mm4"},
+                            {"Wel,y =", "1.063E+5", " mm3"},
+                            {"Wel,z =", "3.848E+4", " mm3"},
+                            {"Wpl,y =", "1.195E+5", " mm3"},
+                            {"Wpl,z =", "5.885E+4", " mm3"},
+                            {"Iw =", "6.472E+9", " mm6"},
+                            {"g =", "19.9", " kg/m"},
+                            {"S =", "0.677", " m2/m"},
                             {"Cross Section Class: ", "1/1/1", "(N/My/Mz)"},
-                            {"Nc,Rd =", "595.5", " kN"},    {"My,Rd =", "28.1", " kNm"}};
+                            {"Nc,Rd =", "595.5", " kN"},
+                            {"My,Rd =", "28.1", " kNm"}};
     auto* d = qobject_cast<SectionDialog*>(form->openDialog("p01"));
     QVERIFY(d);
     QCOMPARE(form->dialog("p01"), d);

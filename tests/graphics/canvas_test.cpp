@@ -42,9 +42,9 @@ TEST(CanvasScale, RadiusIsMeasuredAlongX) {
 }
 
 TEST(CanvasColour, ColourValuesHoldRedInTheLowByte) {
-  EXPECT_EQ(RgbOfColorValue(65280), kGreen);       // the background of a field being edited
-  EXPECT_EQ(RgbOfColorValue(16777215), kWhite);    // a field at rest
-  EXPECT_EQ(RgbOfColorValue(0xFF0000), kBlue);     // 255 in the blue channel: the moment curve
+  EXPECT_EQ(RgbOfColorValue(65280), kGreen);     // the background of a field being edited
+  EXPECT_EQ(RgbOfColorValue(16777215), kWhite);  // a field at rest
+  EXPECT_EQ(RgbOfColorValue(0xFF0000), kBlue);   // 255 in the blue channel: the moment curve
   EXPECT_EQ(RgbOfColorValue(255), kRed);
 }
 
@@ -102,8 +102,7 @@ TEST(SvgCanvas, LineLandsOnThePixelsOfItsUserCoordinates) {
   svg.SetScale(0, 0, 100, 100);
   svg.Line({16, 50}, {86, 50}, Pen{kBlue, 1, LineStyle::Solid});
   const std::string out = svg.Svg();
-  EXPECT_NE(out.find("<line x1=\"32\" y1=\"50\" x2=\"172\" y2=\"50\" stroke=\"#0000ff\""),
-            std::string::npos)
+  EXPECT_NE(out.find("<line x1=\"32\" y1=\"50\" x2=\"172\" y2=\"50\" stroke=\"#0000ff\""), std::string::npos)
       << out;
   EXPECT_EQ(out.rfind("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"200\" height=\"100\"", 0), 0u);
 }
@@ -127,8 +126,7 @@ TEST(SvgCanvas, RectangleFromAnyTwoCornersAndCircleRadius) {
   EXPECT_NE(out.find("<rect x=\"20\" y=\"40\" width=\"100\" height=\"40\" fill=\"#00ff00\""),
             std::string::npos)
       << out;
-  EXPECT_NE(out.find("<circle cx=\"100\" cy=\"100\" r=\"10\" fill=\"none\""), std::string::npos)
-      << out;
+  EXPECT_NE(out.find("<circle cx=\"100\" cy=\"100\" r=\"10\" fill=\"none\""), std::string::npos) << out;
 }
 
 TEST(SvgCanvas, NumbersKeepThePointUnderADecimalCommaLocale) {

@@ -53,8 +53,8 @@ TEST(ResultChart, LabelsCarryTheirTextsAndFormats) {
   EXPECT_TRUE(HasText(d, "My/Vz/Deflection (kNm/kN/mm)"));
   EXPECT_TRUE(HasText(d, "M"));
   EXPECT_TRUE(HasText(d, "V"));
-  EXPECT_TRUE(HasText(d, "31.3"));        // "#0.0" of 31.25, the half away from zero
-  EXPECT_TRUE(HasText(d, "x=2.500 m"));   // the peak inside the member: 0.5 * 5 m
+  EXPECT_TRUE(HasText(d, "31.3"));       // "#0.0" of 31.25, the half away from zero
+  EXPECT_TRUE(HasText(d, "x=2.500 m"));  // the peak inside the member: 0.5 * 5 m
   EXPECT_TRUE(HasText(d, "25.0"));
   EXPECT_TRUE(HasText(d, "-25.0"));
   // 5 m * 1000 / 12.5 mm = 400.

@@ -111,8 +111,7 @@ TEST(SectionFigure, EveryFamilyAndAlternativeHasItsOwnStockPicture) {
     DrawStockSection(svg, s, type, true);
     pictures.insert(svg.Svg());
   };
-  const int types[] = {1, 4, 5, 6, 7, 8, 10, 11, 15, 16, 22, 23, 24, 25, 26, 27, 28, 31, 41,
-                       51, 52, 54, 56};
+  const int types[] = {1, 4, 5, 6, 7, 8, 10, 11, 15, 16, 22, 23, 24, 25, 26, 27, 28, 31, 41, 51, 52, 54, 56};
   for (int type : types) add(type);
   s.project.rhsTurned = 0;  // the rectangle lying on its side
   add(7);

@@ -30,17 +30,41 @@ std::vector<std::string> Labels(const DetailTable& t) {
   return out;
 }
 
-const std::vector<std::string> kCommonLabels = {
-    " Parameter",  " Moment shape", " My",     " My",     " Lateral Buckling Factors",
-    " Mcr",        " C1",           " lamdaLt", " Mcr0",  " lamda0",
-    " XLt",        " XLtmod",       " kc",     " f",      " Buckling Factors",
-    " Ncr,y",      " lamday",       " Xy",     " Ncr,z",  " lamdaz",
-    " Xz",         " NcrT",         " NcrTF",  " Interaction Factors",
-    " kyy",        " kyz",          " kzz",    " kzy",    " Cmy",
-    " Cmy0",       " Cmz",          " CmLt"};
-const std::vector<std::string> kMethod1Labels = {
-    " Cyy", " Cyz", " Czy", " Czz", " aLt", " bLt", " cLt", " dLt",
-    " eLt", " npl", " uy",  " uz",  " wy",  " wz",  " ey"};
+const std::vector<std::string> kCommonLabels = {" Parameter",
+                                                " Moment shape",
+                                                " My",
+                                                " My",
+                                                " Lateral Buckling Factors",
+                                                " Mcr",
+                                                " C1",
+                                                " lamdaLt",
+                                                " Mcr0",
+                                                " lamda0",
+                                                " XLt",
+                                                " XLtmod",
+                                                " kc",
+                                                " f",
+                                                " Buckling Factors",
+                                                " Ncr,y",
+                                                " lamday",
+                                                " Xy",
+                                                " Ncr,z",
+                                                " lamdaz",
+                                                " Xz",
+                                                " NcrT",
+                                                " NcrTF",
+                                                " Interaction Factors",
+                                                " kyy",
+                                                " kyz",
+                                                " kzz",
+                                                " kzy",
+                                                " Cmy",
+                                                " Cmy0",
+                                                " Cmz",
+                                                " CmLt"};
+const std::vector<std::string> kMethod1Labels = {" Cyy", " Cyz", " Czy", " Czz", " aLt",
+                                                 " bLt", " cLt", " dLt", " eLt", " npl",
+                                                 " uy",  " uz",  " wy",  " wz",  " ey"};
 const std::vector<std::string> kTailLabels = {" Shear area", " Az", " Ay", " Other"};
 
 std::vector<std::string> ExpectedLabels(bool method1) {
@@ -158,12 +182,11 @@ TEST(DetailTableValues, DecimalCommaLocaleWritesACommaInEveryValue) {
 TEST(DetailTableValues, EveryRowShowsItsOwnField) {
   State s = NewState(1);
   Checks& c = s.checks;
-  Number* fields[] = {&c.C1,    &c.lamdaLT, &c.lamda0, &c.XLt,  &c.xLT,  &c.kc,   &c.fLT,
-                      &c.Ncry,  &c.lamday,  &c.chiy,   &c.Ncrz, &c.lamdaz, &c.chiz, &c.NcrT,
-                      &c.NcrTF, &c.kyy,     &c.kyz,    &c.kzz,  &c.kzy,  &c.Cmy,  &c.Cmy0,
-                      &c.Cmz,   &c.CmLt,    &c.Cyy,    &c.Cyz,  &c.Czy,  &c.Czz,  &c.aLt,
-                      &c.bLt,   &c.cLt,     &c.dLt,    &c.eLt,  &c.npl,  &c.uy,   &c.uz,
-                      &c.wy,    &c.wz,      &c.ey};
+  Number* fields[] = {&c.C1,     &c.lamdaLT, &c.lamda0, &c.XLt,    &c.xLT,  &c.kc,   &c.fLT,   &c.Ncry,
+                      &c.lamday, &c.chiy,    &c.Ncrz,   &c.lamdaz, &c.chiz, &c.NcrT, &c.NcrTF, &c.kyy,
+                      &c.kyz,    &c.kzz,     &c.kzy,    &c.Cmy,    &c.Cmy0, &c.Cmz,  &c.CmLt,  &c.Cyy,
+                      &c.Cyz,    &c.Czy,     &c.Czz,    &c.aLt,    &c.bLt,  &c.cLt,  &c.dLt,   &c.eLt,
+                      &c.npl,    &c.uy,      &c.uz,     &c.wy,     &c.wz,   &c.ey};
   const int rows[] = {6,  7,  9,  10, 11, 12, 13, 15, 16, 17, 18, 19, 20, 21, 22, 24, 25, 26, 27,
                       28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46};
   static_assert(std::size(fields) == std::size(rows));

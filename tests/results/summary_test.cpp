@@ -54,12 +54,15 @@ TEST(SummaryText, DefaultProjectDigitForDigit) {
   EXPECT_EQ(lines[0], "Governing Loadcase: EN1990 ULS: Eq 6.10: LC = 1.35*G + 1.5*Q1 + 1.5*0.7*Q2");
   EXPECT_EQ(lines[1], "");
   EXPECT_EQ(lines[2], "SECTION CONTROL:");
-  EXPECT_EQ(lines[3], "IR = My,Ed/My,Rd = 42.2/447.1 =                        "
-                      "0.09 [OK]     < 1.0 (0.50L; Ch 6.2.5)");
-  EXPECT_EQ(lines[4], "IR = NEd/NRd+My,Ed/My,Rd = 135.0/3993.8+42.2/447.1 =   "
-                      "0.13 [OK]     < 1.0 (0.50L; Ch 6.2.1/6.2.9)");
-  EXPECT_EQ(lines[5], "IR = Vz,Ed/Vz,Rd = 33.8/763.5 =                        "
-                      "0.04 [OK]     < 1.0 (0.00L; Ch 6.2.6)");
+  EXPECT_EQ(lines[3],
+            "IR = My,Ed/My,Rd = 42.2/447.1 =                        "
+            "0.09 [OK]     < 1.0 (0.50L; Ch 6.2.5)");
+  EXPECT_EQ(lines[4],
+            "IR = NEd/NRd+My,Ed/My,Rd = 135.0/3993.8+42.2/447.1 =   "
+            "0.13 [OK]     < 1.0 (0.50L; Ch 6.2.1/6.2.9)");
+  EXPECT_EQ(lines[5],
+            "IR = Vz,Ed/Vz,Rd = 33.8/763.5 =                        "
+            "0.04 [OK]     < 1.0 (0.00L; Ch 6.2.6)");
   // The view state behind it: the load case name keeps its trailing blank.
   const std::vector<SummaryLine>& v = s.view.summary;
   ASSERT_GE(v.size(), 5u);
@@ -84,11 +87,9 @@ TEST(ShowControls, NoForcesLeaveTheSectionTitleAlone) {
 
 TEST(ShowControls, RedRatioKeepsItsLimitTextAndOnlyTheColourTells) {
   State s = Recorded();
-  s.checks.secText[1] =
-      Text("IR = My,Ed/My,Rd = ", "632.8/447.1 = ", "1.42", " < 1.0 (0.50L; Ch 6.2.5)");
+  s.checks.secText[1] = Text("IR = My,Ed/My,Rd = ", "632.8/447.1 = ", "1.42", " < 1.0 (0.50L; Ch 6.2.5)");
   s.checks.colSec[1] = 4;
-  s.checks.secText[3] =
-      Text("IR = Vz,Ed/Vz,Rd = ", "506.3/763.5 = ", "0.66", " < 1.0 (0.00L; Ch 6.2.6)");
+  s.checks.secText[3] = Text("IR = Vz,Ed/Vz,Rd = ", "506.3/763.5 = ", "0.66", " < 1.0 (0.00L; Ch 6.2.6)");
   s.checks.colSec[3] = 2;
   ShowControls(s);
   ASSERT_EQ(s.view.summary.size(), 4u);  // group 2 has no formula: no line
@@ -130,8 +131,7 @@ TEST(ShowControls, GoverningLoadcaseByMode) {
   s.analysis.GoverningEquation = 2;
   EXPECT_EQ(GoverningLoadcaseText(s).rfind("EN1990 ULS: Eq 6.10b:", 0), 0u);
   p.LoadCombMode = 4;
-  EXPECT_EQ(GoverningLoadcaseText(s),
-            "ULS: 1.35*G + 1.50*Q1 + 1.50*Q2 / SLS: 1.00*G + 1.00*Q1 + 1.00*Q2");
+  EXPECT_EQ(GoverningLoadcaseText(s), "ULS: 1.35*G + 1.50*Q1 + 1.50*Q2 / SLS: 1.00*G + 1.00*Q1 + 1.00*Q2");
   p.checkSLS = False;
   EXPECT_EQ(GoverningLoadcaseText(s), "ULS: 1.35*G + 1.50*Q1 + 1.50*Q2");
   p.LoadCombMode = 5;
@@ -144,8 +144,7 @@ TEST(ShowControls, BucklingBlockWithItsOwnLeftTexts) {
   Checks& k = s.checks;
   k.buckTextY = Text("IR = NEd/(Xy*NRd)", "135.0/(0.95*3993.8)", "0.04", " < 1.0 (Ch 6.3.1)");
   k.colBuckY = 2;
-  k.buckTextLT =
-      Text("IR = My,Ed/(XLT*My,Rd) = ", "42.2/(0.90*447.1) = ", "0.10", " < 1.0 (Ch 6.3.2)");
+  k.buckTextLT = Text("IR = My,Ed/(XLT*My,Rd) = ", "42.2/(0.90*447.1) = ", "0.10", " < 1.0 (Ch 6.3.2)");
   k.colLT = 2;
   ShowControls(s);
   const std::vector<SummaryLine>& v = s.view.summary;
@@ -203,9 +202,7 @@ TEST(SummaryText, AFailedRunShowsTheMessageAboveTheLastSummary) {
   ASSERT_TRUE(s.view.txtErrorVisible);
   const std::string after = SummaryText(s);
   EXPECT_EQ(
-      after.rfind(
-          " Calculation Error. Axial load too big. Increase profile or reduce axial force\n", 0),
-      0u);
+      after.rfind(" Calculation Error. Axial load too big. Increase profile or reduce axial force\n", 0), 0u);
   EXPECT_NE(after.find(before), std::string::npos);
 }
 

@@ -22,8 +22,8 @@ void WriteL100x10(State& s, int row) {
 
 // l2.dat: h, b, t, r, A, ez, ey, v1, v3, u heel, u1, tan alfa, Iy, Iz, Iu, Iv (x 1e4 each).
 void WriteL100x75x10(State& s, int row) {
-  WriteRow(s, catL2, row, {100, 75, 10, 10, 1660, 31.9f, 19.5f, 69.1f, 54.5f, 32.4f, 15.4f, 0.544f,
-                           162, 77.6f, 197, 42.2f});
+  WriteRow(s, catL2, row,
+           {100, 75, 10, 10, 1660, 31.9f, 19.5f, 69.1f, 54.5f, 32.4f, 15.4f, 0.544f, 162, 77.6f, 197, 42.2f});
 }
 
 State Equal100(int grade) {
@@ -38,23 +38,23 @@ State Equal100(int grade) {
 TEST(EqualAngle, L100x100x10MatchesTheTableAndTheHandCalculation) {
   State s = Equal100(kS235);
   const Section& c = s.section;
-  EXPECT_TRUE(Near(c.A, 1920, kSingle));          // 19.2 cm2
+  EXPECT_TRUE(Near(c.A, 1920, kSingle));  // 19.2 cm2
   EXPECT_EQ(c.ez, 28.2f);
-  EXPECT_TRUE(Near(c.Iy, 1.767e6, kSingle));      // 176.7 cm4
+  EXPECT_TRUE(Near(c.Iy, 1.767e6, kSingle));  // 176.7 cm4
   EXPECT_EQ(c.Iz, c.Iy);
   EXPECT_EQ(c.IzDefl, c.Iy);
-  EXPECT_TRUE(Near(c.Iu, 2.807e6, kSingle));      // 280.7 cm4
-  EXPECT_TRUE(Near(c.Iv, 7.265e5, kSingle));      // 72.65 cm4
+  EXPECT_TRUE(Near(c.Iu, 2.807e6, kSingle));  // 280.7 cm4
+  EXPECT_TRUE(Near(c.Iv, 7.265e5, kSingle));  // 72.65 cm4
   EXPECT_EQ(c.alfa, 45.0f);
   EXPECT_TRUE(Near(c.Wely, 24.6e3, kPublished3));  // Wel = 24.6 cm3
   EXPECT_TRUE(Near(c.Wely, 24610.028, kHand));     // 1.767e6 / (100 - 28.2)
   EXPECT_TRUE(Near(c.Wyb, 62659.574, kHand));      // 1.767e6 / 28.2
   EXPECT_EQ(c.Welz, c.Wely);
-  EXPECT_TRUE(Near(c.g, 15.072, kHand));           // 7850 x 1920e-6
-  EXPECT_TRUE(Near(c.S, 0.39484956, kHand));       // (400 - 24 + 6 pi) / 1000
-  EXPECT_TRUE(Near(c.Ix, 63333.333, kHand));       // t^3 (b - t/2) 2/3
-  EXPECT_TRUE(Near(c.Iw, 5.5555556e7, kHand));     // b^3 t^3 / 18
-  EXPECT_EQ(c.c, 78.0f);                           // 100 - 10 - 12
+  EXPECT_TRUE(Near(c.g, 15.072, kHand));        // 7850 x 1920e-6
+  EXPECT_TRUE(Near(c.S, 0.39484956, kHand));    // (400 - 24 + 6 pi) / 1000
+  EXPECT_TRUE(Near(c.Ix, 63333.333, kHand));    // t^3 (b - t/2) 2/3
+  EXPECT_TRUE(Near(c.Iw, 5.5555556e7, kHand));  // b^3 t^3 / 18
+  EXPECT_EQ(c.c, 78.0f);                        // 100 - 10 - 12
 }
 
 TEST(EqualAngle, CornerPointsLieSymmetricAndTheHeelOnTheUAxis) {
@@ -81,8 +81,8 @@ TEST(EqualAngle, ResistancesAndClassOfAStockyAngle) {
   EXPECT_EQ(c.classN, 3);
   EXPECT_EQ(c.classMy, 3);
   EXPECT_EQ(c.classMz, 3);
-  EXPECT_TRUE(Near(c.NcRd, 451.2, kHand));   // 1920 x 235 / 1000
-  EXPECT_EQ(c.NRdBuck, c.NcRd);              // gammaM0 = gammaM1 = 1
+  EXPECT_TRUE(Near(c.NcRd, 451.2, kHand));  // 1920 x 235 / 1000
+  EXPECT_EQ(c.NRdBuck, c.NcRd);             // gammaM0 = gammaM1 = 1
   EXPECT_TRUE(Near(c.MuRdMin, 9.8197770, kHand));
   EXPECT_TRUE(Near(c.MvRdMin, 4.2788846, kHand));
   EXPECT_TRUE(Near(c.MelyAngle, 5.7833564, kHand));
@@ -152,13 +152,13 @@ State Unequal100x75(int grade) {
 TEST(UnequalAngle, L100x75x10MatchesTheTableAndTheHandCalculation) {
   State s = Unequal100x75(kS235);
   const Section& c = s.section;
-  EXPECT_TRUE(Near(c.A, 1660, kSingle));        // 16.6 cm2
-  EXPECT_TRUE(Near(c.Iy, 1.62e6, kSingle));     // 162 cm4
-  EXPECT_TRUE(Near(c.Iz, 7.76e5, kSingle));     // 77.6 cm4
-  EXPECT_TRUE(Near(c.Iu, 1.97e6, kSingle));     // 197 cm4
-  EXPECT_TRUE(Near(c.Iv, 4.22e5, kSingle));     // 42.2 cm4
-  EXPECT_EQ(c.IzDefl, c.Iy);                    // an angle deflects about z with Iy
-  EXPECT_TRUE(Near(c.alfa, 28.546192, kHand));  // atan 0.544 in degrees
+  EXPECT_TRUE(Near(c.A, 1660, kSingle));           // 16.6 cm2
+  EXPECT_TRUE(Near(c.Iy, 1.62e6, kSingle));        // 162 cm4
+  EXPECT_TRUE(Near(c.Iz, 7.76e5, kSingle));        // 77.6 cm4
+  EXPECT_TRUE(Near(c.Iu, 1.97e6, kSingle));        // 197 cm4
+  EXPECT_TRUE(Near(c.Iv, 4.22e5, kSingle));        // 42.2 cm4
+  EXPECT_EQ(c.IzDefl, c.Iy);                       // an angle deflects about z with Iy
+  EXPECT_TRUE(Near(c.alfa, 28.546192, kHand));     // atan 0.544 in degrees
   EXPECT_TRUE(Near(c.Wely, 23.8e3, kPublished3));  // Wel,y = 23.8 cm3
   EXPECT_TRUE(Near(c.Welz, 14.0e3, kPublished3));  // Wel,z = 14.0 cm3
   EXPECT_TRUE(Near(c.Wely, 23788.546, kHand));     // 1.62e6 / (100 - 31.9)
@@ -201,7 +201,7 @@ TEST(UnequalAngle, EachSlenderLegLosesItsOwnStrip) {
   ComputeSection(s);
   EXPECT_EQ(s.section.classN, 4);
   EXPECT_TRUE(Near(s.section.Aeff, 1782.9741, kHand));  // 1900 - 132 (1 - rho2) 8
-  EXPECT_TRUE(Near(s.section.NcRd, 418.99893, kHand));   // Aeff x 235 / 1000
+  EXPECT_TRUE(Near(s.section.NcRd, 418.99893, kHand));  // Aeff x 235 / 1000
 }
 
 TEST(Angles, NameOutlineAndFigure) {

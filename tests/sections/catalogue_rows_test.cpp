@@ -35,8 +35,8 @@ TEST(CatalogueRows, EveryRowOfTheFilesGivesASection) {
   if (!HaveFile("hea.dat")) GTEST_SKIP() << "no catalogue files beside the program";
   State s = StartedState();
   const Family families[] = {
-      {1, 0, catHea}, {2, 0, catHeb}, {3, 0, catHem},  {4, 0, catIpe},  {15, 0, catInp},
-      {5, 0, catUpe}, {16, 0, catUnp}, {101, 1, catUb}, {101, 2, catUc}, {101, 3, catUbp},
+      {1, 0, catHea}, {2, 0, catHeb},   {3, 0, catHem},  {4, 0, catIpe},  {15, 0, catInp},
+      {5, 0, catUpe}, {16, 0, catUnp},  {101, 1, catUb}, {101, 2, catUc}, {101, 3, catUbp},
       {102, 0, catJ}, {103, 1, catPfc}, {103, 2, catCh},
   };
   for (const Family& f : families) {
@@ -68,21 +68,21 @@ TEST(CatalogueRows, SampleSizesMatchThePublishedTables) {
   ASSERT_GE(hea, 0);
   Choose(s, 1, catHea, hea);
   ComputeSection(s);
-  EXPECT_TRUE(Near(s.section.A, 5383, kPublished4));       // 53.83 cm2
-  EXPECT_TRUE(Near(s.section.Iy, 36.92e6, kPublished4));   // 3692 cm4
-  EXPECT_TRUE(Near(s.section.Wply, 429.5e3, kPublished4)); // 429.5 cm3
-  EXPECT_TRUE(Near(s.section.Ix, 209.8e3, kPublished4));   // 20.98 cm4
-  EXPECT_TRUE(Near(s.section.Iw, 108.0e9, kPublished4));   // 108.0 x 10^3 cm6
+  EXPECT_TRUE(Near(s.section.A, 5383, kPublished4));        // 53.83 cm2
+  EXPECT_TRUE(Near(s.section.Iy, 36.92e6, kPublished4));    // 3692 cm4
+  EXPECT_TRUE(Near(s.section.Wply, 429.5e3, kPublished4));  // 429.5 cm3
+  EXPECT_TRUE(Near(s.section.Ix, 209.8e3, kPublished4));    // 20.98 cm4
+  EXPECT_TRUE(Near(s.section.Iw, 108.0e9, kPublished4));    // 108.0 x 10^3 cm6
 
   s.project.subFamily101 = 1;
   const int ub = RowOf(s, catUb, "UB 457x191x67");
   ASSERT_GE(ub, 0);
   Choose(s, 101, catUb, ub);
   ComputeSection(s);
-  EXPECT_TRUE(Near(s.section.A, 8550, kPublished3));        // 85.5 cm2
-  EXPECT_TRUE(Near(s.section.Iy, 294e6, kPublished3));      // 29400 cm4
-  EXPECT_TRUE(Near(s.section.Wply, 1470e3, kPublished3));   // 1470 cm3
-  EXPECT_TRUE(Near(s.section.Iw, 0.705e12, kPublished3));   // 0.705 dm6
+  EXPECT_TRUE(Near(s.section.A, 8550, kPublished3));       // 85.5 cm2
+  EXPECT_TRUE(Near(s.section.Iy, 294e6, kPublished3));     // 29400 cm4
+  EXPECT_TRUE(Near(s.section.Wply, 1470e3, kPublished3));  // 1470 cm3
+  EXPECT_TRUE(Near(s.section.Iw, 0.705e12, kPublished3));  // 0.705 dm6
 }
 
 }  // namespace

@@ -19,8 +19,8 @@ void WriteUpe200(State& s, int row) {
 // unp.dat: h, b, tw, tf, r1, r2, ey, shear centre from the back of the web, A, Iy x 1e4, Iz x 1e4,
 // It x 1e6, Iw x 1e9, Wply x 1000, Wplz x 1000. UPN 200 with ys = 20.1 mm, ym = 39.4 mm.
 void WriteUnp200(State& s, int row) {
-  WriteRow(s, catUnp, row, {200, 75, 8.5f, 11.5f, 11.5f, 6, 20.1f, 59.5f, 3220, 1910, 148, 0.119f,
-                            9.07f, 228, 51.8f});
+  WriteRow(s, catUnp, row,
+           {200, 75, 8.5f, 11.5f, 11.5f, 6, 20.1f, 59.5f, 3220, 1910, 148, 0.119f, 9.07f, 228, 51.8f});
 }
 
 TEST(UpeProperties, Upe200MatchesThePublishedTable) {
@@ -36,22 +36,22 @@ TEST(UpeProperties, Upe200MatchesThePublishedTable) {
   EXPECT_EQ(c.r, 13.0f);
   EXPECT_EQ(c.ey, 25.6f);
   EXPECT_EQ(c.em, 27.5f);
-  EXPECT_TRUE(Near(c.A, 2900, kSingle));           // 29.0 cm2
-  EXPECT_TRUE(Near(c.Iy, 19.1e6, kSingle));        // 1910 cm4
-  EXPECT_TRUE(Near(c.Iz, 1.87e6, kSingle));        // 187 cm4
-  EXPECT_TRUE(Near(c.Wply, 220e3, kSingle));       // 220 cm3
-  EXPECT_TRUE(Near(c.Wplz, 63.3e3, kSingle));      // 63.3 cm3
-  EXPECT_TRUE(Near(c.Ix, 88900, kSingle));         // It = 8.89 cm4, stored x 1000
-  EXPECT_TRUE(Near(c.Iw, 11.0e9, kSingle));        // 11.0 x 10^3 cm6
-  EXPECT_TRUE(Near(c.Wely, 191e3, kPublished3));   // 191 cm3
-  EXPECT_TRUE(Near(c.g, 22.8, kPublished3));       // 22.8 kg/m
+  EXPECT_TRUE(Near(c.A, 2900, kSingle));          // 29.0 cm2
+  EXPECT_TRUE(Near(c.Iy, 19.1e6, kSingle));       // 1910 cm4
+  EXPECT_TRUE(Near(c.Iz, 1.87e6, kSingle));       // 187 cm4
+  EXPECT_TRUE(Near(c.Wply, 220e3, kSingle));      // 220 cm3
+  EXPECT_TRUE(Near(c.Wplz, 63.3e3, kSingle));     // 63.3 cm3
+  EXPECT_TRUE(Near(c.Ix, 88900, kSingle));        // It = 8.89 cm4, stored x 1000
+  EXPECT_TRUE(Near(c.Iw, 11.0e9, kSingle));       // 11.0 x 10^3 cm6
+  EXPECT_TRUE(Near(c.Wely, 191e3, kPublished3));  // 191 cm3
+  EXPECT_TRUE(Near(c.g, 22.8, kPublished3));      // 22.8 kg/m
   // Welz at the flange tips: 1.87e6 / (80 - 25.6) = 34375.0
   EXPECT_TRUE(Near(c.Welz, 34375.0, kHand));
   // S = (160 + 200 + 22 + 2*(80-6-13) + (200-22-26) + pi*13)/1000 = 0.6968407
   EXPECT_TRUE(Near(c.S, 0.6968407, kHand));
-  EXPECT_EQ(c.c, 61.0f);     // 80 - 6 - 13
-  EXPECT_EQ(c.hw, 178.0f);   // 200 - 22
-  EXPECT_EQ(c.d, 152.0f);    // 178 - 26
+  EXPECT_EQ(c.c, 61.0f);    // 80 - 6 - 13
+  EXPECT_EQ(c.hw, 178.0f);  // 200 - 22
+  EXPECT_EQ(c.d, 152.0f);   // 178 - 26
   EXPECT_EQ(c.tmax, 11.0f);
   EXPECT_EQ(c.IzDefl, c.Iz);
   EXPECT_EQ(s.view.text["p05.oname"], "UPE200");
@@ -67,7 +67,7 @@ TEST(UnpProperties, Unp200MatchesThePublishedTable) {
   const Section& c = s.section;
   EXPECT_EQ(c.r1, 11.5);
   EXPECT_EQ(c.r2, 6.0f);
-  EXPECT_EQ(c.r, 0.0f);                            // the tapered channel has r1 and r2 only
+  EXPECT_EQ(c.r, 0.0f);  // the tapered channel has r1 and r2 only
   EXPECT_EQ(c.ey, 20.1f);
   EXPECT_FLOAT_EQ(c.em, 39.4f);                    // 59.5 - 20.1
   EXPECT_TRUE(Near(c.A, 3220, kSingle));           // 32.2 cm2
@@ -85,9 +85,9 @@ TEST(UnpProperties, Unp200MatchesThePublishedTable) {
   // (150 + 200 + 23 + 2*(75-8.5-11.5) + (200-23-23) - 75 sin(8 deg) + pi*11.5 - 2*(6 - 6 pi/4))/1000
   //   = 0.6601151
   EXPECT_TRUE(Near(c.S, 0.6601151, kHand));
-  EXPECT_EQ(c.c, 55.0f);     // 75 - 8.5 - 11.5
+  EXPECT_EQ(c.c, 55.0f);  // 75 - 8.5 - 11.5
   EXPECT_EQ(c.hw, 177.0f);
-  EXPECT_EQ(c.d, 154.0f);    // 177 - 23
+  EXPECT_EQ(c.d, 154.0f);  // 177 - 23
   EXPECT_EQ(s.view.text["p16.oname"], "UNP200");
 }
 

@@ -35,11 +35,11 @@ TEST(ClassAboutY, FlangeExactlyOnNineEpsilonIsClassTwoInThePureCases) {
   // c = (200 - 8 - 12)/2 = 90, c/tf = 9 = 9 epsilon: not below the class 1 limit.
   // Web d/tw = 168/8 = 21, class 1 in every case.
   State s = ISection(200, 200, 10, 8, 6, 5000, 40e6f, 13e6f);
-  EXPECT_EQ(ClassAboutY(s, 10, 0), 2);   // compression
+  EXPECT_EQ(ClassAboutY(s, 10, 0), 2);  // compression
   EXPECT_EQ(s.section.classWeb, 1);
   EXPECT_EQ(s.section.classFlange, 2);
-  EXPECT_EQ(ClassAboutY(s, 0, 10), 2);   // bending about y
-  EXPECT_EQ(ClassAboutZ(s, 0, 10), 2);   // bending about z
+  EXPECT_EQ(ClassAboutY(s, 0, 10), 2);  // bending about y
+  EXPECT_EQ(ClassAboutZ(s, 0, 10), 2);  // bending about z
   // A hair below: class 1.
   s.section.c = 89.99f;
   EXPECT_EQ(ClassAboutY(s, 10, 0), 1);
@@ -121,10 +121,10 @@ TEST(ClassAboutY, TensionBeyondTheWebWithAMomentEndsInTheCalculationMessage) {
 TEST(ClassAboutZ, OutstandInBendingIsClassThreeUpToTwentyOneEpsilonRootK) {
   // 21 epsilon sqrt(0.57) = 15.8545, a non-strict limit.
   State s = ISection(300, 300, 10, 10, 0, 10000, 100e6f, 40e6f);
-  s.section.c = 158.5f;   // c/tf = 15.85
+  s.section.c = 158.5f;  // c/tf = 15.85
   EXPECT_EQ(ClassAboutZ(s, 0, 10), 3);
   EXPECT_EQ(s.section.classWeb, 1);  // the web lies on the neutral axis
-  s.section.c = 158.6f;   // 15.86
+  s.section.c = 158.6f;              // 15.86
   EXPECT_EQ(ClassAboutZ(s, 0, 10), 4);
 }
 

@@ -90,8 +90,8 @@ TEST(RolledIEffective, NoFlangeBucklingKeepsTheFlangesButNotTheClass) {
   // lamdaP = 116/(28.4*sqrt(23.88)) = 0.835839 <= 0.5 + sqrt(0.14) = 0.874166: no web loss, and
   // Weffy = Iy/(h/2) = 777.5e6/300 = 2591666.7
   EXPECT_TRUE(Near(c.Weffy, 2591666.67, kHand));
-  EXPECT_EQ(c.Weffz, c.Welz);   // no loss about z: the whole flange counts
-  EXPECT_EQ(c.classN, 4);       // the class still follows c/tf = 19.75
+  EXPECT_EQ(c.Weffz, c.Welz);  // no loss about z: the whole flange counts
+  EXPECT_EQ(c.classN, 4);      // the class still follows c/tf = 19.75
   EXPECT_EQ(c.classMy, 4);
 }
 

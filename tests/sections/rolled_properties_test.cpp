@@ -28,11 +28,11 @@ TEST(RolledIProperties, Hea200MatchesThePublishedTable) {
   EXPECT_EQ(c.tf, 10.0f);
   EXPECT_EQ(c.tw, 6.5f);
   EXPECT_EQ(c.r, 18.0f);
-  EXPECT_TRUE(Near(c.A, 5383, kSingle));        // 53.83 cm2
-  EXPECT_TRUE(Near(c.Iy, 36.92e6, kSingle));    // 3692 cm4
-  EXPECT_TRUE(Near(c.Iz, 13.36e6, kSingle));    // 1336 cm4
-  EXPECT_TRUE(Near(c.Ix, 209800, kSingle));     // It = 20.98 cm4
-  EXPECT_TRUE(Near(c.Iw, 108.0e9, kSingle));    // Iw = 108.0 x 10^3 cm6
+  EXPECT_TRUE(Near(c.A, 5383, kSingle));      // 53.83 cm2
+  EXPECT_TRUE(Near(c.Iy, 36.92e6, kSingle));  // 3692 cm4
+  EXPECT_TRUE(Near(c.Iz, 13.36e6, kSingle));  // 1336 cm4
+  EXPECT_TRUE(Near(c.Ix, 209800, kSingle));   // It = 20.98 cm4
+  EXPECT_TRUE(Near(c.Iw, 108.0e9, kSingle));  // Iw = 108.0 x 10^3 cm6
   EXPECT_EQ(c.IzDefl, c.Iz);
 
   // Derived, against the published values.
@@ -51,11 +51,11 @@ TEST(RolledIProperties, Hea200MatchesThePublishedTable) {
   // S = (2*(200-6.5-36) + 40 + 400 + 2*(190-20-36) + 6.2831855*18)/1000 = 1.1360973
   EXPECT_TRUE(Near(c.S, 1.1360973, kHand));
 
-  EXPECT_EQ(c.hw, 170.0f);          // 190 - 2*10
-  EXPECT_EQ(c.d, 134.0f);           // 190 - 2*(18 + 10)
-  EXPECT_EQ(c.c, 78.75f);           // (200 - 6.5 - 36)/2
-  EXPECT_EQ(c.Af, 4000.0f);         // 2*200*10
-  EXPECT_EQ(c.Aw, 1105.0f);         // 170*6.5
+  EXPECT_EQ(c.hw, 170.0f);   // 190 - 2*10
+  EXPECT_EQ(c.d, 134.0f);    // 190 - 2*(18 + 10)
+  EXPECT_EQ(c.c, 78.75f);    // (200 - 6.5 - 36)/2
+  EXPECT_EQ(c.Af, 4000.0f);  // 2*200*10
+  EXPECT_EQ(c.Aw, 1105.0f);  // 170*6.5
   EXPECT_EQ(c.tmax, 10.0f);
   EXPECT_EQ(s.view.text["p01.oname"], "HEA200");
 }
@@ -112,21 +112,21 @@ TEST(InpProperties, Inp200TakesItsModuliFromTheTable) {
   Choose(s, 15, catInp, 11);
   ComputeSection(s);
   const Section& c = s.section;
-  EXPECT_TRUE(Near(c.A, 3340, kSingle));            // 33.4 cm2
-  EXPECT_TRUE(Near(c.Iy, 21.4e6, kSingle));         // 2140 cm4
-  EXPECT_TRUE(Near(c.Iz, 1.17e6, kSingle));         // 117 cm4
-  EXPECT_TRUE(Near(c.Wply, 250e3, kSingle));        // 250 cm3, not derived
-  EXPECT_TRUE(Near(c.Wplz, 43.5e3, kSingle));       // 43.5 cm3
-  EXPECT_TRUE(Near(c.Ix, 135e3, kSingle));          // It = 13.5 cm4
-  EXPECT_TRUE(Near(c.Iw, 10.5e9, kSingle));         // 10.5 x 10^3 cm6
-  EXPECT_TRUE(Near(c.Wely, 214e3, kPublished3));    // 214 cm3
-  EXPECT_TRUE(Near(c.Welz, 26.0e3, kPublished3));   // 26.0 cm3
-  EXPECT_TRUE(Near(c.g, 26.2, kPublished3));        // 26.2 kg/m
-  EXPECT_TRUE(Near(c.S, 0.709, kPublished3));       // 0.709 m2/m
+  EXPECT_TRUE(Near(c.A, 3340, kSingle));           // 33.4 cm2
+  EXPECT_TRUE(Near(c.Iy, 21.4e6, kSingle));        // 2140 cm4
+  EXPECT_TRUE(Near(c.Iz, 1.17e6, kSingle));        // 117 cm4
+  EXPECT_TRUE(Near(c.Wply, 250e3, kSingle));       // 250 cm3, not derived
+  EXPECT_TRUE(Near(c.Wplz, 43.5e3, kSingle));      // 43.5 cm3
+  EXPECT_TRUE(Near(c.Ix, 135e3, kSingle));         // It = 13.5 cm4
+  EXPECT_TRUE(Near(c.Iw, 10.5e9, kSingle));        // 10.5 x 10^3 cm6
+  EXPECT_TRUE(Near(c.Wely, 214e3, kPublished3));   // 214 cm3
+  EXPECT_TRUE(Near(c.Welz, 26.0e3, kPublished3));  // 26.0 cm3
+  EXPECT_TRUE(Near(c.g, 26.2, kPublished3));       // 26.2 kg/m
+  EXPECT_TRUE(Near(c.S, 0.709, kPublished3));      // 0.709 m2/m
   // No radius column: r = tw, and the whole half flange is the outstand.
   EXPECT_EQ(c.r, 7.5f);
-  EXPECT_EQ(c.c, 45.0f);                            // 90/2
-  EXPECT_EQ(c.d, 162.4f);                           // 200 - 2*(7.5 + 11.3)
+  EXPECT_EQ(c.c, 45.0f);   // 90/2
+  EXPECT_EQ(c.d, 162.4f);  // 200 - 2*(7.5 + 11.3)
   // S with the 14 degree slope: (2*(90-7.5-15) + 45.2 + 180
   //   + 2*(200-22.6-15 - 45*sin(14 deg)) + 6.2831855*7.5)*0.001 = 0.7103509
   EXPECT_TRUE(Near(c.S, 0.7103509, kHand));
@@ -150,13 +150,13 @@ TEST(RolledIProperties, OutlineHasTwentyOnePointsWithChordedFillets) {
   EXPECT_EQ(c.Outline[1].y, 0.0f);
   EXPECT_EQ(c.Outline[21].x, 0.0f);
   EXPECT_EQ(c.Outline[21].y, 0.0f);
-  EXPECT_EQ(c.Outline[3].x, 96.75f - 18);   // fillet starts r from the web on the flange
+  EXPECT_EQ(c.Outline[3].x, 96.75f - 18);  // fillet starts r from the web on the flange
   EXPECT_EQ(c.Outline[3].y, 10.0f);
   EXPECT_FLOAT_EQ(c.Outline[4].x, 96.75f - 5.4f);  // chord point 0.3 r from web and flange
   EXPECT_FLOAT_EQ(c.Outline[4].y, 15.4f);
   EXPECT_EQ(c.Outline[5].x, 96.75f);
   EXPECT_EQ(c.Outline[5].y, 28.0f);
-  EXPECT_EQ(c.Outline[11].x, 200.0f);      // upper right corner
+  EXPECT_EQ(c.Outline[11].x, 200.0f);  // upper right corner
   EXPECT_EQ(c.Outline[11].y, 190.0f);
 }
 
@@ -189,8 +189,8 @@ TEST(RolledIDispatcher, FlagsOfTheRolledAndChannelFamilies) {
   EXPECT_EQ(s.section.ltbRelevant, -1);
   EXPECT_EQ(s.section.channelKind, 0);
 
-  WriteRow(s, catUnp, 8, {200, 75, 8.5f, 11.5f, 11.5f, 6, 20.1f, 59.5f, 3220, 1910, 148, 0.119f, 9.07f,
-                          228, 51.8f});
+  WriteRow(s, catUnp, 8,
+           {200, 75, 8.5f, 11.5f, 11.5f, 6, 20.1f, 59.5f, 3220, 1910, 148, 0.119f, 9.07f, 228, 51.8f});
   Choose(s, 16, catUnp, 8);
   ComputeSection(s);
   EXPECT_EQ(s.section.ltbRelevant, -1);

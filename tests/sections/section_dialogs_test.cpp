@@ -20,10 +20,12 @@ State DialogState() {
   // HEA 200 at row 5, IPE 300 at row 10, UB 457x191x67 at row 30, UC 254x254x73 at row 4.
   WriteRow(s, catHea, 5, {200, 190, 200, 10, 6.5f, 18, 5383, 36.92f, 13.36f, 0.2098f, 108.0f});
   WriteRow(s, catIpe, 10, {300, 150, 10.7f, 7.1f, 15, 5381, 83.56f, 6.038f, 0.2012f, 125.9f});
-  WriteRow(s, catUb, 30, {457, 191, 67, 67.1f, 453.4f, 189.9f, 8.5f, 12.7f, 10.2f, 85.5f, 1.63f, 29400,
-                          1300, 1470, 1450, 153, 237, 37.1f, 705});
-  WriteRow(s, catUc, 4, {254, 254, 73, 73.1f, 254.1f, 254.6f, 8.6f, 14.2f, 12.7f, 93.1f, 1.49f, 11400,
-                         898, 992, 3910, 307, 465, 57.6f, 562});
+  WriteRow(s, catUb, 30,
+           {457, 191, 67, 67.1f, 453.4f, 189.9f, 8.5f, 12.7f, 10.2f, 85.5f, 1.63f, 29400, 1300, 1470, 1450,
+            153, 237, 37.1f, 705});
+  WriteRow(s, catUc, 4,
+           {254, 254, 73, 73.1f, 254.1f, 254.6f, 8.6f, 14.2f, 12.7f, 93.1f, 1.49f, 11400, 898, 992, 3910, 307,
+            465, 57.6f, 562});
   s.project.SelectedRow[catHea] = 5;
   s.project.SelectedRow[catIpe] = 10;
   s.project.SelectedRow[catUb] = 30;
@@ -88,7 +90,7 @@ TEST(SectionDialogs, ProfileNamesOfTheMenu) {
   EXPECT_EQ(s.project.ProfileType, 11);
   EXPECT_EQ(s.project.profileName, "L-unequal");
   // The later families keep the name; the general section is drawn not to scale.
-  const std::pair<const char*, int> kept[] = {{"mnup06", 6}, {"mnup21", 21}, {"mnu26", 26},
+  const std::pair<const char*, int> kept[] = {{"mnup06", 6},      {"mnup21", 21},   {"mnu26", 26},
                                               {"mnuplateTg", 56}, {"Command2", 54}, {"mnup28", 28}};
   for (const auto& [control, type] : kept) {
     Fire(s, control);
@@ -105,8 +107,9 @@ TEST(SectionDialogs, ProfileNamesOfTheMenu) {
 
 TEST(SectionDialogs, InformationFormsOpenAndClose) {
   State s = DialogState();
-  for (const auto& [opener, form] : {std::pair{"Picture", "InfoVARNELT"}, std::pair{"setup.cmdULS", "InfoULS"},
-                                     std::pair{"setup.cmdPsi", "InfoPsi"}, std::pair{"mnuabout", "about"}}) {
+  for (const auto& [opener, form] :
+       {std::pair{"Picture", "InfoVARNELT"}, std::pair{"setup.cmdULS", "InfoULS"},
+        std::pair{"setup.cmdPsi", "InfoPsi"}, std::pair{"mnuabout", "about"}}) {
     Fire(s, opener);
     EXPECT_TRUE(IsOpen(s, form)) << form;
     Fire(s, std::string(form) + ".ok");
@@ -229,18 +232,30 @@ TEST(ShowSectionValues, Hea200BlocksAsTheDialogShowsThem) {
   };
   // Values: Part of the hand calculations of the property tests; formats of the dialog.
   const Expected lines[] = {
-      {"h =", "190", " mm"},          {"b =", "200", " mm"},
-      {"tf =", "10.0", " mm"},        {"tw =", "6.5", " mm"},
-      {"r =", "18", " mm"},           {"A =", "5383", " mm2"},
-      {"Ix =", "2.098E+5", " mm4"},   {"Iy =", "3.692E+7", " mm4"},
-      {"Iz =", "1.336E+7", " mm4"},   {"Wel,y =", "3.886E+5", " mm3"},
-      {"Wel,z =", "1.336E+5", " mm3"}, {"Wpl,y =", "4.295E+5", " mm3"},
-      {"Wpl,z =", "2.038E+5", " mm3"}, {"Iw =", "1.080E+11", " mm6"},
-      {"g =", "42.3", " kg/m"},       {"S =", "1.136", " m2/m"},
-      {"Aeff =", "5383", " mm2"},     {"Weff,y =", "3.886E+5", " mm3"},
-      {"Weff,z =", "1.336E+5", " mm3"}, {"Cross Section Class: ", "1/1/1", "(N/My/Mz)"},
-      {"Nt,Rd =", "1265.0", " kN"},   {"Nc,Rd =", "1265.0", " kN"},
-      {"My,Rd =", "100.9", " kNm"},   {"Mz,Rd =", "47.9", " kNm"},
+      {"h =", "190", " mm"},
+      {"b =", "200", " mm"},
+      {"tf =", "10.0", " mm"},
+      {"tw =", "6.5", " mm"},
+      {"r =", "18", " mm"},
+      {"A =", "5383", " mm2"},
+      {"Ix =", "2.098E+5", " mm4"},
+      {"Iy =", "3.692E+7", " mm4"},
+      {"Iz =", "1.336E+7", " mm4"},
+      {"Wel,y =", "3.886E+5", " mm3"},
+      {"Wel,z =", "1.336E+5", " mm3"},
+      {"Wpl,y =", "4.295E+5", " mm3"},
+      {"Wpl,z =", "2.038E+5", " mm3"},
+      {"Iw =", "1.080E+11", " mm6"},
+      {"g =", "42.3", " kg/m"},
+      {"S =", "1.136", " m2/m"},
+      {"Aeff =", "5383", " mm2"},
+      {"Weff,y =", "3.886E+5", " mm3"},
+      {"Weff,z =", "1.336E+5", " mm3"},
+      {"Cross Section Class: ", "1/1/1", "(N/My/Mz)"},
+      {"Nt,Rd =", "1265.0", " kN"},
+      {"Nc,Rd =", "1265.0", " kN"},
+      {"My,Rd =", "100.9", " kNm"},
+      {"Mz,Rd =", "47.9", " kNm"},
   };
   for (const Expected& e : lines) {
     const View::Line* l = Line(s, e.label);

@@ -78,8 +78,8 @@ TEST(TubeSection, ClassByDiameterOverWall) {
     float d;
     double cls;
   };
-  for (Case k : {Case{150, 1}, Case{150.3f, 2}, Case{210, 2}, Case{210.3f, 3}, Case{270, 3},
-                 Case{270.3f, 4}}) {
+  for (Case k :
+       {Case{150, 1}, Case{150.3f, 2}, Case{210, 2}, Case{210.3f, 3}, Case{270, 3}, Case{270.3f, 4}}) {
     State s = Typed(31, kS235);
     s.project.p31 = {k.d, 3, 1};
     ComputeSection(s);

@@ -274,8 +274,8 @@ std::string ValueOf(const State& s, const std::string& label, int occurrence = 1
 // My,Rd = 2 374 048*355/1e6 = 842.8 kNm.
 TEST(WeldedIDialogs, DoubleSymmetricShowsTheRolledBlock) {
   State s = StartedState();
-  for (const auto& [field, text] : {std::pair{"p21.isth", "500"}, {"p21.istb1", "250"},
-                                    {"p21.isttw", "8"}, {"p21.isttf", "16"}})
+  for (const auto& [field, text] :
+       {std::pair{"p21.isth", "500"}, {"p21.istb1", "250"}, {"p21.isttw", "8"}, {"p21.isttf", "16"}})
     ASSERT_FALSE(Fire(s, field, text).refused);
   EXPECT_EQ(s.project.ProfileType, 21);
   EXPECT_EQ(ValueOf(s, "A ="), "11744");
@@ -287,9 +287,12 @@ TEST(WeldedIDialogs, DoubleSymmetricShowsTheRolledBlock) {
 // The single symmetric I shows a class and a resistance for each flange in compression.
 TEST(WeldedIDialogs, SingleSymmetricShowsBothFlanges) {
   State s = StartedState();
-  for (const auto& [field, text] :
-       {std::pair{"p22.isth", "600"}, {"p22.istb1", "200"}, {"p22.istb2", "400"}, {"p22.isttw", "9"},
-        {"p22.isttf1", "20"}, {"p22.isttf2", "20"}})
+  for (const auto& [field, text] : {std::pair{"p22.isth", "600"},
+                                    {"p22.istb1", "200"},
+                                    {"p22.istb2", "400"},
+                                    {"p22.isttw", "9"},
+                                    {"p22.isttf1", "20"},
+                                    {"p22.isttf2", "20"}})
     ASSERT_FALSE(Fire(s, field, text).refused);
   EXPECT_EQ(s.project.ProfileType, 22);
   EXPECT_EQ(ValueOf(s, "Wel,yt ="), "2.886E+6");

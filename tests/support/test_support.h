@@ -14,7 +14,6 @@
 
 namespace vn::test {
 
-
 // A fresh folder under the system's temporary folder, removed again at the end of the test.
 class TempFolder {
  public:
@@ -64,8 +63,8 @@ inline constexpr Tolerance kPublished4{5e-4, "published tables give 4 significan
 inline ::testing::AssertionResult Near(double actual, double expected, Tolerance t) {
   double allowed = std::fabs(expected) * t.relative;
   if (std::fabs(actual - expected) <= allowed) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure() << actual << " differs from " << expected << " by more than "
-                                       << allowed << " (" << t.reason << ")";
+  return ::testing::AssertionFailure()
+         << actual << " differs from " << expected << " by more than " << allowed << " (" << t.reason << ")";
 }
 
 }  // namespace vn::test
