@@ -72,7 +72,11 @@ Single SteppedPlasticAxis(std::span<const Plate> plates, double A, double h) {
   Single zpl = 2;
   for (double n = 0;; ++n) {
     if (n > rounds) Fault("overflow");
-    zpl = ToSingle(zpl + 0.1);
+    // Beyond some 2 km a step of 0.1 mm is lost in the 32-bit axis: a girder of that depth ends
+    // in the calculation error instead of stepping in place.
+    const Single next = ToSingle(zpl + 0.1);
+    if (next == zpl) Fault("overflow");
+    zpl = next;
     const double z = zpl;
     double below = 0;
     for (const Plate& pl : plates) {

@@ -261,6 +261,15 @@ TEST(SingleSymProperties, FlangesFillingTheHeightFail) {
   EXPECT_THROW(ComputeSection(s), CalcFault);
 }
 
+// A girder 1000 km deep: the plastic axis cannot step 0.1 mm at a time in 32 bits beyond some 2 km,
+// so the run ends in the fault at once instead of stepping in place.
+TEST(SingleSymProperties, AnAbsurdDepthEndsInTheFault) {
+  State s = SectionState();
+  s.project.ProfileType = 22;
+  s.project.p22 = {1e9f, 200, 400, 9, 20, 20};
+  EXPECT_THROW(ComputeSection(s), CalcFault);
+}
+
 // ---- The dialogs, on the started program (S355, epsilon = 0.8136) ----
 
 std::string ValueOf(const State& s, const std::string& label, int occurrence = 1) {
