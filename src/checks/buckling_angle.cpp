@@ -10,26 +10,22 @@
 
 #include "checks/buckling.h"
 #include "checks/control_routines.h"
+#include "checks/control_text.h"
 #include "core/format.h"
 #include "core/state.h"
 
 namespace vn {
 
+using text::Colour;
+using text::F1;
+using text::F2;
+using text::Limit;
+using text::Write;
+
 namespace {
 
 constexpr Single kHeld = 0.002f;  // a buckling factor below it marks an axis held over its length
 constexpr float kPiAngle = 3.14159f;
-
-std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
-std::string F2(const State& s, double v) { return FormatNumber(v, "0.00", s.decimalComma); }
-
-Integer Colour(const State& s, double ratio) {
-  return ratio > static_cast<double>(s.analysis.IRlimit) ? Integer{4} : Integer{2};
-}
-
-std::string Limit(const State& s, const char* tail) {
-  return " < " + F1(s, s.analysis.IRlimit) + " (" + tail;
-}
 
 // The flexural lines carry their ratio behind " = ".
 std::string RatioText(const State& s, double ratio) { return " = " + F2(s, ratio); }

@@ -15,27 +15,23 @@
 
 #include "checks/buckling.h"
 #include "checks/control_routines.h"
+#include "checks/control_text.h"
 #include "core/format.h"
 #include "core/state.h"
 
 namespace vn {
+
+using text::Colour;
+using text::F1;
+using text::F2;
+using text::Limit;
+using text::Write;
 
 namespace {
 
 // A buckling factor below this marks an axis held over its length (case 5 gives 0.001). Compared
 // as the Single the factor is, so that 0.002 itself is neither held nor free.
 constexpr Single kHeld = 0.002f;
-
-std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
-std::string F2(const State& s, double v) { return FormatNumber(v, "0.00", s.decimalComma); }
-
-Integer Colour(const State& s, double ratio) {
-  return ratio > static_cast<double>(s.analysis.IRlimit) ? Integer{4} : Integer{2};
-}
-
-std::string Limit(const State& s, const std::string& tail) {
-  return " < " + F1(s, s.analysis.IRlimit) + " (" + tail;
-}
 
 // The moment resistance of the terms of 6.61 and 6.62.
 double MomentResistance(const State& s, const BucklingStyle& style) {

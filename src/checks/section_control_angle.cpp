@@ -8,24 +8,20 @@
 
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
+#include "checks/control_text.h"
 #include "checks/section_control_i.h"
 #include "core/format.h"
 #include "core/state.h"
 
 namespace vn {
 
+using text::Colour;
+using text::F1;
+using text::F2;
+using text::Limit;
+using text::Write;
+
 namespace {
-
-std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
-std::string F2(const State& s, double v) { return FormatNumber(v, "0.00", s.decimalComma); }
-
-void Write(const State& s, ControlText& t, std::string formula, std::string numbers, double ratio,
-           std::string limit) {
-  t.Formula = std::move(formula);
-  t.Numbers = std::move(numbers);
-  t.Ratio = F2(s, ratio);
-  t.Limit = std::move(limit);
-}
 
 // The worst of the three corners: point 2 on a tie with point 1, point 3 only when strictly above
 // both.

@@ -19,6 +19,7 @@
 
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
+#include "checks/control_text.h"
 #include "checks/shear_resistance.h"
 #include "core/format.h"
 #include "core/state.h"
@@ -26,18 +27,13 @@
 
 namespace vn {
 
+using text::Colour;
+using text::F1;
+using text::F2;
+using text::Limit;
+using text::Write;
+
 namespace {
-
-std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
-std::string F2(const State& s, double v) { return FormatNumber(v, "0.00", s.decimalComma); }
-
-void Write(const State& s, ControlText& t, std::string formula, std::string numbers, double ratio,
-           std::string limit) {
-  t.Formula = std::move(formula);
-  t.Numbers = std::move(numbers);
-  t.Ratio = F2(s, ratio);
-  t.Limit = std::move(limit);
-}
 
 bool On(Boolean flag) { return flag != 0; }
 

@@ -10,6 +10,7 @@
 #include "checks/buckling.h"
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
+#include "checks/control_text.h"
 #include "checks/section_control_i.h"
 #include "checks/shear_resistance.h"
 #include "core/format.h"
@@ -17,17 +18,13 @@
 
 namespace vn {
 
+using text::Colour;
+using text::F1;
+using text::F2;
+using text::Limit;
+using text::Write;
+
 namespace {
-
-std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
-
-void Write(const State& s, ControlText& t, std::string formula, std::string numbers, double ratio,
-           std::string limit) {
-  t.Formula = std::move(formula);
-  t.Numbers = std::move(numbers);
-  t.Ratio = FormatNumber(ratio, "0.00", s.decimalComma);
-  t.Limit = std::move(limit);
-}
 
 // The shear resistances of a point of an HSQ or box: the flange contribution of the flange with
 // the smaller tf b, the two webs side by side. The axial force stays out.

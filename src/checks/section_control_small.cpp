@@ -9,6 +9,7 @@
 #include "checks/buckling.h"
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
+#include "checks/control_text.h"
 #include "checks/section_control_i.h"
 #include "checks/shear_resistance.h"
 #include "core/format.h"
@@ -16,10 +17,13 @@
 
 namespace vn {
 
-namespace {
+using text::Colour;
+using text::F1;
+using text::F2;
+using text::Limit;
+using text::Write;
 
-std::string F1(const State& s, double v) { return FormatNumber(v, "0.0", s.decimalComma); }
-std::string F2(const State& s, double v) { return FormatNumber(v, "0.00", s.decimalComma); }
+namespace {
 
 // rho of 6.2.8 for a shear V against the resistance VRd: 0 up to half, at most 1.
 Single ShearRho(double V, double VRd) {
