@@ -223,11 +223,15 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
   for (int i = 0; i <= an.NPoints; ++i) {
     const size_t ix = static_cast<size_t>(i);
     const double x = an.ChPointXrel[ix];
-    k.MyEd = std::fabs(an.MyPt[ix]);
+    // A family whose flanges differ keeps the sign of My for its classes and resistances; the
+    // ratios and texts take its magnitude.
+    k.MyEd = rules.signedMy ? an.MyPt[ix] : std::fabs(an.MyPt[ix]);
+    const double MySigned = k.MyEd;
     k.MzEd = rules.aboutZ ? std::fabs(an.MzPt[ix]) : 0;
     k.VyEd = rules.aboutZ ? std::fabs(an.VyPt[ix]) : 0;
     k.VzEd = std::fabs(an.VzPt[ix]);
-    const double MyEd = k.MyEd, MzEd = k.MzEd, VyEd = k.VyEd, VzEd = k.VzEd;
+    const double MyEd = std::fabs(k.MyEd), MzEd = k.MzEd, VyEd = k.VyEd, VzEd = k.VzEd;
+    const double classMy = !rules.signedMy ? c.classMy : MySigned > 0 ? c.classMyPos : c.classMyNeg;
     // The plain texts of b to d hold below half the shear, the MV texts of e to g above it; a
     // family without the reduction for shear always has the plain texts.
     const bool red = rules.shearReduces;
@@ -237,7 +241,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
 
     // b. My alone.
     if (MyEd != 0) {
-      k.classCur = c.classMy;
+      k.classCur = classMy;
       rules.myRd(s);
       const double ir = Div(MyEd, k.MyRd);
       if (Compete(ir, IR1, col1, lim))
@@ -259,11 +263,11 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
 
     // d. Both moments without an axial force.
     if (MyEd != 0 && MzEd != 0 && NEd == 0) {
-      k.classCur = c.classMy;
+      k.classCur = classMy;
       rules.myRd(s);
       k.classCur = c.classMz;
       rules.mzRd(s);
-      if (!conser && c.classMy <= 2 && c.classMz <= 2) {
+      if (!conser && classMy <= 2 && c.classMz <= 2) {
         const double ir = Pow(Div(MyEd, k.MyRd), k.alfa) + Pow(Div(MzEd, k.MzRd), k.betaN);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2,
@@ -285,7 +289,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
 
     // e. N and My.
     if (NEd != 0 && MyEd != 0) {
-      k.classCur = rules.classY(s, NEd, MyEd);
+      k.classCur = rules.classY(s, NEd, MySigned);
       rules.myRd(s);
       if (k.classCur <= 2 && !conser) {
         rules.mnyRd(s);
@@ -295,8 +299,11 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
           Write(s, t2, highVz ? "IR = My,Ed/MVN,y,Rd = " : "IR = My,Ed/MN,y,Rd = ",
                 F(MyEd) + "/" + F(k.MNyRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
-        k.classCur = c.classMy;
-        rules.myRd(s);
+        // The resistance of the class of pure bending; with signed moments that of the pair stays.
+        if (!rules.signedMy) {
+          k.classCur = classMy;
+          rules.myRd(s);
+        }
         const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd);
         if (Compete(ir, IR2, col2, lim))
           Write(s, t2, highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd = " : "IR = NEd/NRd+My,Ed/My,Rd = ",
@@ -328,7 +335,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
 
     // g. N with both moments.
     if (NEd != 0 && MyEd != 0 && MzEd != 0) {
-      k.classCur = rules.classY(s, NEd, MyEd);
+      k.classCur = rules.classY(s, NEd, MySigned);
       k.classNMy = k.classCur;
       rules.myRd(s);
       k.classCur = rules.classZ(s, NEd, MzEd);
@@ -346,8 +353,10 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
                     ")^" + E(k.betaN) + " = ",
                 ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
-        k.classCur = c.classMy;
-        rules.myRd(s);
+        if (!rules.signedMy) {
+          k.classCur = classMy;
+          rules.myRd(s);
+        }
         k.classCur = c.classMz;
         rules.mzRd(s);
         const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
@@ -362,7 +371,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
     }
 
     // h. The shear resistances of this point, with the flange contribution under its moment.
-    rules.shear(s, NEd, MyEd);
+    rules.shear(s, NEd, MySigned);
 
     // i. Vz: the label says Vz,Rd, the value is Vb,z,Rd.
     if (VzEd != 0) {

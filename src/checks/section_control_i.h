@@ -40,6 +40,9 @@ struct SectionControlRules {
   const char* exponentFormat = "0.00";  // the exponents in the Numbers of the biaxial forms
   bool shearReduces = true;             // false: MRd is never reduced for shear, and no MV or MVN text
   bool aboutZ = true;                   // false: bending about y only, no Mz and no Vy lines
+  // true: MyEd keeps its sign for the classes (classMyPos, classMyNeg), the resistance and the
+  // shear of a point, and the linear N + M forms keep the resistance of the pair's class.
+  bool signedMy = false;
 };
 
 // alfa = 2 and beta = 5n, not below 1, with n against NtRd.
