@@ -376,17 +376,22 @@ double ClassAboutY(State& s, double N, double M) {
 }
 
 double ClassAboutZ(State& s, double N, double M) {
+  const Section& c = s.section;
+  return ClassAboutZOf(s, N, M, c.b / 2.0, c.c, c.tf);
+}
+
+double ClassAboutZOf(State& s, double N, double M, double edge, double outstand, double tOutstand) {
   Section& c = s.section;
   const Project& p = s.project;
   const double eps = p.epsilon;
   const double fyk = p.fyk;
 
-  const double sigmaM = Div(M * 1e6, c.Iz) * (c.b / 2.0);
+  const double sigmaM = Div(M * 1e6, c.Iz) * edge;
   const double sigmaN = Div(N * 1000, c.A);
   const double sigma1 = std::fabs(sigmaM) - sigmaN;
   const double sigma2 = -std::fabs(sigmaM) - sigmaN;
 
-  auto flangeSlenderness = [&] { return ToSingle(Div(c.c, c.tf)); };
+  auto flangeSlenderness = [&] { return ToSingle(Div(outstand, tOutstand)); };
   auto webSlenderness = [&] { return ToSingle(Div(c.d, c.tw)); };
   auto psiOf = [&] { return sigma2 != 0 ? Div(sigma1, sigma2) : 0.0; };
   // Class 3 or 4 of the outstand under the stress gradient.
@@ -414,7 +419,7 @@ double ClassAboutZ(State& s, double N, double M) {
     // The tension the web cannot carry goes into the flanges.
     const double T = -N * 1000 - static_cast<double>(c.hw) * fyk * c.tw;
     if (T > 1) {
-      const double alfa = Div(c.b / 2.0 - Div(Div(Div(T, c.tf), fyk), 4), c.c);
+      const double alfa = Div(c.b / 2.0 - Div(Div(Div(T, c.tf), fyk), 4), outstand);
       const Single ctf = flangeSlenderness();
       if (alfa > 1) {
         if (ctf < ToSingle(9 * eps))

@@ -52,6 +52,10 @@ void ClassesAndMoments(State& s, ClassRoutine classY, ClassRoutine classZ);
 double ClassAboutY(State& s, double N, double M);
 // The same about z.
 double ClassAboutZ(State& s, double N, double M);
+// ClassAboutZ of a section whose flanges differ: the bending stress at `edge` from the web, and the
+// tested outstand `outstand` of thickness `tOutstand`, which also sets the flange's share of a
+// tension beyond the web.
+double ClassAboutZOf(State& s, double N, double M, double edge, double outstand, double tOutstand);
 
 // Class 1 to 3 by three limits k1, k2, k3 times epsilon, else 4. The slenderness and each product
 // with epsilon are singles, and the test is strict: a slenderness on the limit takes the next class.

@@ -346,76 +346,11 @@ double ClassSingleSymY(State& s, double N, double M) {
 }
 
 double ClassSingleSymZ(State& s, double N, double M) {
-  Section& c = s.section;
-  const Project& p = s.project;
-  const double eps = p.epsilon;
-  const double fyk = p.fyk;
-
-  const double sigmaM = Div(M * 1e6, c.Iz) * (c.b1 / 2.0);
-  const double sigmaN = Div(N * 1000, c.A);
-  const double sigma1 = std::fabs(sigmaM) - sigmaN;
-  const double sigma2 = -std::fabs(sigmaM) - sigmaN;
-
+  const Section& c = s.section;
   // The more slender flange is the one tested; its outstand stands in for c where the tension
-  // share of the flange is found.
+  // share of the flange is found. The stress is taken at the edge of the upper flange.
   const bool upper = ToSingle(Div(c.c1, c.tf1)) >= ToSingle(Div(c.c2, c.tf2));
-  const double cTested = upper ? c.c1 : c.c2;
-  const Single ctf = FlangeSlenderness(c);
-  const Single dtw = ToSingle(Div(c.d, c.tw));
-  auto psiOf = [&] { return sigma2 != 0 ? Div(sigma1, sigma2) : 0.0; };
-  auto gradient = [&] {
-    const double psi = psiOf();
-    return ctf <= 21 * eps * Sqrt(0.57 - 0.21 * psi + 0.07 * psi * psi) ? 3.0 : 4.0;
-  };
-
-  if (N < 0 && M == 0) {
-    c.classWeb = 1;
-    c.classFlange = 1;
-  } else if (N > 0 && M == 0) {
-    c.classFlange = PlateClass(ctf, eps, 9, 10, 14, true);
-    c.classWeb = ToSingle(PlateClass(dtw, eps, 33, 38, 42, true));
-  } else if (N == 0 && M != 0) {
-    if (ctf < ToSingle(9 * eps))
-      c.classFlange = 1;
-    else if (ctf < ToSingle(10 * eps))
-      c.classFlange = 2;
-    else if (ctf <= 21 * eps * Sqrt(0.57))
-      c.classFlange = 3;
-    else
-      c.classFlange = 4;
-    c.classWeb = 1;  // the web lies on the neutral axis
-  } else if (N < 0 && M != 0) {
-    c.classWeb = 1;
-    // The tension the web cannot carry goes into the flanges.
-    const double T = -N * 1000 - static_cast<double>(c.hw) * fyk * c.tw;
-    if (T > 1) {
-      const double alfa = Div(c.b / 2.0 - Div(Div(Div(T, c.tf), fyk), 4), cTested);
-      if (alfa > 1) {
-        if (ctf < ToSingle(9 * eps))
-          c.classFlange = 1;
-        else if (ctf < ToSingle(10 * eps))
-          c.classFlange = 2;
-        else
-          c.classFlange = gradient();
-      } else {
-        if (ctf < 9 * eps * alfa)
-          c.classFlange = 1;
-        else if (ctf < 10 * eps * alfa)
-          c.classFlange = 2;
-        else
-          c.classFlange = gradient();
-      }
-    }
-  } else if (N > 0 && M != 0) {
-    if (ctf < ToSingle(9 * eps))
-      c.classFlange = 1;
-    else if (ctf < ToSingle(10 * eps))
-      c.classFlange = 2;
-    else
-      c.classFlange = gradient();
-    c.classWeb = ToSingle(PlateClass(dtw, eps, 33, 38, 42, true));
-  }
-  return std::max<double>(c.classWeb, c.classFlange);
+  return ClassAboutZOf(s, N, M, c.b1 / 2.0, upper ? c.c1 : c.c2, upper ? c.tf1 : c.tf2);
 }
 
 void SingleSymEffective(State& s) {
