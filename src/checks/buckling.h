@@ -40,6 +40,12 @@ inline constexpr BucklingStyle kBucklingStyleI{true, "+", false};
 inline constexpr BucklingStyle kBucklingStyleSingleSym{true, "+", true, true};
 // The lines about y and z, and LT where the style has it.
 void RunBucklingControl(State& s, const BucklingStyle& style);
+// The flexural lines of a strut (6.3.1), NEd/Nb,y,Rd and NEd/Nb,z,Rd, for the axes that are free;
+// `ratioPrefix` stands before the ratio's text. Sets the ratios and the colours.
+void StrutLines(State& s, bool yLine, bool zLine, const char* ratioPrefix, double& IRy, double& IRz);
+// The line of a strut that 6.3.1.2 (4) lets off.
+inline constexpr const char* kNoBucklingText =
+    "No Buckling, ref ch 6.3.1.2 (4);  lamdaby/lamdabz<=0.2 or Ned/Ncry<=0.04; Ned/Ncry<=0.04";
 // The lateral torsional line alone: LateralTorsionalControl, then, where a moment governs, the line
 // and its colour; IRlt gets the ratio.
 void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt);

@@ -159,24 +159,7 @@ void BucklingControlAngle(State& s) {
     k.buckTextY.Formula = "No Buckling";
   } else if (NEd > 0) {
     // 4.
-    if (yLine) {
-      IRy = std::fabs(Div(NEd, k.NbyRd));
-      ControlText& t = k.buckTextY;
-      t.Formula = "IR = NEd/Nb,y,Rd ";
-      t.Numbers = F1(s, NEd) + "/" + F1(s, k.NbyRd);
-      t.Ratio = RatioText(s, IRy);
-      t.Limit = Limit(s, "Ch 6.3.1)");
-      k.colBuckY = Colour(s, IRy);
-    }
-    if (zLine) {
-      IRz = std::fabs(Div(NEd, k.NbzRd));
-      ControlText& t = k.buckTextZ;
-      t.Formula = "IR = NEd/Nb,z,Rd ";
-      t.Numbers = F1(s, NEd) + "/" + F1(s, k.NbzRd);
-      t.Ratio = RatioText(s, IRz);
-      t.Limit = Limit(s, "Ch 6.3.1)");
-      k.colBuckZ = Colour(s, IRz);
-    }
+    StrutLines(s, yLine, zLine, " = ", IRy, IRz);
     {
       IRv = std::fabs(Div(NEd, k.NbvRd));
       ControlText& t = k.buckTextLT;
@@ -197,9 +180,7 @@ void BucklingControlAngle(State& s) {
         k.buckTextY = ControlText{};
         k.buckTextZ = ControlText{};
         k.buckTextLT = ControlText{};
-        k.buckTextY.Formula =
-            "No Buckling, ref ch 6.3.1.2 (4);  lamdaby/lamdabz<=0.2 or Ned/Ncry<=0.04; "
-            "Ned/Ncry<=0.04";
+        k.buckTextY.Formula = kNoBucklingText;
         IRy = IRz = IRv = 0;
       }
     } else {

@@ -141,6 +141,22 @@ void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt) {
   k.colLT = Colour(s, IRlt);
 }
 
+void StrutLines(State& s, bool yLine, bool zLine, const char* ratioPrefix, double& IRy, double& IRz) {
+  Checks& k = s.checks;
+  const double NEd = s.analysis.NEd;
+  auto line = [&](ControlText& t, const char* formula, double NbRd, Integer& colour) {
+    const double ir = std::fabs(Div(NEd, NbRd));
+    t.Formula = formula;
+    t.Numbers = F1(s, NEd) + "/" + F1(s, NbRd);
+    t.Ratio = ratioPrefix + F2(s, ir);
+    t.Limit = Limit(s, "Ch 6.3.1)");
+    colour = Colour(s, ir);
+    return ir;
+  };
+  if (yLine) IRy = line(k.buckTextY, "IR = NEd/Nb,y,Rd ", k.NbyRd, k.colBuckY);
+  if (zLine) IRz = line(k.buckTextZ, "IR = NEd/Nb,z,Rd ", k.NbzRd, k.colBuckZ);
+}
+
 void BucklingControlI(State& s) { RunBucklingControl(s, kBucklingStyleI); }
 
 void BucklingControlSingleSym(State& s) { RunBucklingControl(s, kBucklingStyleSingleSym); }
@@ -168,24 +184,7 @@ void RunBucklingControl(State& s, const BucklingStyle& style) {
   if (NEd > 0 && p.bucklingFactorY < kHeld && p.bucklingFactorZ < kHeld) {
     k.buckTextY.Formula = "No Buckling";
   } else if (NEd > 0) {
-    if (yLine) {
-      IRy = std::fabs(Div(NEd, k.NbyRd));
-      ControlText& t = k.buckTextY;
-      t.Formula = "IR = NEd/Nb,y,Rd ";
-      t.Numbers = F1(s, NEd) + "/" + F1(s, k.NbyRd);
-      t.Ratio = F2(s, IRy);
-      t.Limit = Limit(s, "Ch 6.3.1)");
-      k.colBuckY = Colour(s, IRy);
-    }
-    if (zLine) {
-      IRz = std::fabs(Div(NEd, k.NbzRd));
-      ControlText& t = k.buckTextZ;
-      t.Formula = "IR = NEd/Nb,z,Rd ";
-      t.Numbers = F1(s, NEd) + "/" + F1(s, k.NbzRd);
-      t.Ratio = F2(s, IRz);
-      t.Limit = Limit(s, "Ch 6.3.1)");
-      k.colBuckZ = Colour(s, IRz);
-    }
+    StrutLines(s, yLine, zLine, "", IRy, IRz);
     const bool moments = an.MyAbs != 0 || an.MzGov != 0;
     if (!moments) {
       // 6.3.1.2 (4): a stocky or lightly loaded strut needs no buckling check, both axes together.
@@ -194,9 +193,7 @@ void RunBucklingControl(State& s, const BucklingStyle& style) {
       if (stocky || light) {
         k.buckTextY = ControlText{};
         k.buckTextZ = ControlText{};
-        k.buckTextY.Formula =
-            "No Buckling, ref ch 6.3.1.2 (4);  lamdaby/lamdabz<=0.2 or Ned/Ncry<=0.04; "
-            "Ned/Ncry<=0.04";
+        k.buckTextY.Formula = kNoBucklingText;
         IRy = 0;
         IRz = 0;
       }

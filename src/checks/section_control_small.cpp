@@ -204,9 +204,7 @@ void BucklingControlT(State& s) {
       if (stocky || light) {
         k.buckTextY = ControlText{};
         k.buckTextZ = ControlText{};
-        k.buckTextY.Formula =
-            "No Buckling, ref ch 6.3.1.2 (4);  lamdaby/lamdabz<=0.2 or Ned/Ncry<=0.04; "
-            "Ned/Ncry<=0.04";
+        k.buckTextY.Formula = kNoBucklingText;
         IRy = 0;
         IRz = 0;
       }
