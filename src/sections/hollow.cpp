@@ -160,7 +160,7 @@ double HollowClass(State& s, double N, double M, double I, double edge, Single w
                    Single flange) {
   Section& c = s.section;
   const Project& p = s.project;
-  const double eps = p.epsilon, fyk = p.fyk;
+  const double eps = p.epsilon;
   const double sigmaM = Div(M * 1e6, I) * edge;
   const double sigmaN = Div(N * 1000, c.A);
   const double sigma1 = std::fabs(sigmaM) - sigmaN;
@@ -171,43 +171,8 @@ double HollowClass(State& s, double N, double M, double I, double edge, Single w
     c.classFlange = 1;
     return 1;
   }
-  if (N > 0 && M == 0) {
-    c.classWeb = ToSingle(PureClass(web, eps, 33, 38, 42));
-  } else if (N == 0 && M > 0) {
-    c.classWeb = ToSingle(PureClass(web, eps, 72, 83, 124));
-  } else if (N >= 0 && M != 0) {
-    double alfa = Div(N * 1000, alfaArea * fyk);
-    if (alfa > 1) alfa = 1;
-    alfa = 0.5 * (1 + alfa);
-    const double psi = Div(sigma1, sigma2);
-    const double slender = web;
-    if (slender <= Div(396 * eps, 13 * alfa - 1))
-      c.classWeb = 1;
-    else if (slender <= Div(456 * eps, 13 * alfa - 1))
-      c.classWeb = 2;
-    else if (slender <= Div(42 * eps, 0.67 + 0.33 * psi))
-      c.classWeb = 3;
-    else
-      c.classWeb = 4;
-  } else if (N < 0 && M != 0) {
-    double a = Div(-N * 1000, alfaArea * fyk);
-    if (a > 1) a = 1;
-    const double alfa = 1 - 0.5 * (1 + a);
-    const double psi = sigma2 != 0 ? Div(sigma1, sigma2) : 0;
-    const double slender = web;
-    if (alfa >= 1)
-      c.classWeb = 1;
-    else if (slender <= Div(36 * eps, alfa))
-      c.classWeb = 1;
-    else if (slender <= Div(41.5 * eps, alfa))
-      c.classWeb = 2;
-    else if (psi == 0)
-      c.classWeb = 1;
-    else if (slender <= Div(42 * eps, 0.67 + 0.33 * psi))
-      c.classWeb = 3;
-    else
-      c.classWeb = 4;
-  }
+  c.classWeb = WebClassUnder(
+      s, N, M, [web] { return web; }, alfaArea, sigma1, sigma2, c.classWeb);
   // The compressed wall is an internal element: the same limits in compression and in bending,
   // with no test of the edge stress.
   c.classFlange = PureClass(flange, eps, 33, 38, 42);

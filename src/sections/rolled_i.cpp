@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <string>
 
 #include "core/format.h"
@@ -304,11 +305,45 @@ void InpProperties(State& s) {
 // ---------------------------------------------------------------------------------------------
 // Classification
 
+Single WebClassUnder(const State& s, double N, double M, const std::function<Single()>& slenderness,
+                     double area, double sigma1, double sigma2, Single previous) {
+  const double eps = s.project.epsilon;
+  const double fyk = s.project.fyk;
+  if (N > 0 && M == 0) return ToSingle(PureClass(slenderness(), eps, 33, 38, 42));
+  if (N == 0 && M > 0) return ToSingle(PureClass(slenderness(), eps, 72, 83, 124));
+  if (N >= 0 && M != 0) {
+    // Compression and bending: the web part in compression alfa of EN 1993-1-1 Table 5.2.
+    double alfa = Div(N * 1000, area * fyk);
+    if (alfa > 1) alfa = 1;
+    alfa = 0.5 * (1 + alfa);
+    const double psi = Div(sigma1, sigma2);
+    const double dtw = slenderness();
+    if (dtw <= Div(396 * eps, 13 * alfa - 1)) return 1;
+    if (dtw <= Div(456 * eps, 13 * alfa - 1)) return 2;
+    if (dtw <= Div(42 * eps, 0.67 + 0.33 * psi)) return 3;
+    return 4;
+  }
+  if (N < 0 && M != 0) {
+    // Tension and bending.
+    double a = Div(-N * 1000, area * fyk);
+    if (a > 1) a = 1;
+    const double alfa = 1 - 0.5 * (1 + a);
+    const double psi = sigma2 != 0 ? Div(sigma1, sigma2) : 0;
+    const double dtw = slenderness();
+    if (alfa >= 1) return 1;
+    if (dtw <= Div(36 * eps, alfa)) return 1;
+    if (dtw <= Div(41.5 * eps, alfa)) return 2;
+    if (psi == 0) return 1;  // no compression at the edge: the web is taken as class 1
+    if (dtw <= Div(42 * eps, 0.67 + 0.33 * psi)) return 3;
+    return 4;
+  }
+  return previous;  // pure tension is the caller's; N = 0 and M = 0 keep the last class
+}
+
 double ClassAboutY(State& s, double N, double M) {
   Section& c = s.section;
   const Project& p = s.project;
   const double eps = p.epsilon;
-  const double fyk = p.fyk;
 
   // Edge stresses, tension positive: sigma1 at the fibre that bending stretches, sigma2 at the
   // fibre it compresses.
@@ -324,47 +359,9 @@ double ClassAboutY(State& s, double N, double M) {
     return 1;
   }
 
-  auto webSlenderness = [&] { return ToSingle(Div(c.d, c.tw)); };
-
-  if (N > 0 && M == 0) {
-    c.classWeb = ToSingle(PureClass(webSlenderness(), eps, 33, 38, 42));
-  } else if (N == 0 && M > 0) {
-    c.classWeb = ToSingle(PureClass(webSlenderness(), eps, 72, 83, 124));
-  } else if (N >= 0 && M != 0) {
-    // Compression and bending: the web part in compression alfa of EN 1993-1-1 Table 5.2.
-    double alfa = Div(N * 1000, static_cast<double>(c.hw) * c.tw * fyk);
-    if (alfa > 1) alfa = 1;
-    alfa = 0.5 * (1 + alfa);
-    const double psi = Div(sigma1, sigma2);
-    const double dtw = webSlenderness();
-    if (dtw <= Div(396 * eps, 13 * alfa - 1))
-      c.classWeb = 1;
-    else if (dtw <= Div(456 * eps, 13 * alfa - 1))
-      c.classWeb = 2;
-    else if (dtw <= Div(42 * eps, 0.67 + 0.33 * psi))
-      c.classWeb = 3;
-    else
-      c.classWeb = 4;
-  } else if (N < 0 && M != 0) {
-    // Tension and bending.
-    double a = Div(-N * 1000, static_cast<double>(c.hw) * c.tw * fyk);
-    if (a > 1) a = 1;
-    const double alfa = 1 - 0.5 * (1 + a);
-    const double psi = sigma2 != 0 ? Div(sigma1, sigma2) : 0;
-    const double dtw = webSlenderness();
-    if (alfa >= 1)
-      c.classWeb = 1;
-    else if (dtw <= Div(36 * eps, alfa))
-      c.classWeb = 1;
-    else if (dtw <= Div(41.5 * eps, alfa))
-      c.classWeb = 2;
-    else if (psi == 0)
-      c.classWeb = 1;  // no compression at the edge: the web is taken as class 1
-    else if (dtw <= Div(42 * eps, 0.67 + 0.33 * psi))
-      c.classWeb = 3;
-    else
-      c.classWeb = 4;
-  }
+  c.classWeb = WebClassUnder(
+      s, N, M, [&] { return ToSingle(Div(c.d, c.tw)); }, static_cast<double>(c.hw) * c.tw, sigma1, sigma2,
+      c.classWeb);
   // N = 0 and M = 0 leaves the web class of the last classification.
 
   if (sigma2 >= 0)

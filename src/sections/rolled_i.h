@@ -2,6 +2,7 @@
 // the classification about y and z, the effective section and the resistances.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/types.h"
@@ -50,6 +51,14 @@ void ClassesAndMoments(State& s, ClassRoutine classY, ClassRoutine classZ);
 
 // Class 1 to 4 about y under N (kN, compression positive) and M (kNm); sets classWeb and classFlange.
 double ClassAboutY(State& s, double N, double M);
+// The web's class in the cases of EN 1993-1-1 Table 5.2 for an internal part: pure compression
+// (33, 38, 42 epsilon, strict), pure bending (72, 83, 124 epsilon, strict), compression and bending
+// with alfa from N over `area` fyk, tension and bending; sigma1 and sigma2 the edge stresses,
+// tension positive. N = 0 and M = 0 give back `previous`. The slenderness is asked only where a
+// case needs it.
+Single WebClassUnder(const State& s, double N, double M, const std::function<Single()>& slenderness,
+                     double area, double sigma1, double sigma2, Single previous);
+
 // The same about z.
 double ClassAboutZ(State& s, double N, double M);
 // ClassAboutZ of a section whose flanges differ: the bending stress at `edge` from the web, and the
