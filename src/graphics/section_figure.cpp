@@ -299,18 +299,30 @@ void DrawRectSection(draw::Canvas& c, const Section& sec, int type, double unit)
   const int n = std::clamp<int>(sec.OutlineRects, 0, 40);
   for (int i = 1; i <= n; ++i) c.Rectangle(At(sec, 2 * i - 1), At(sec, 2 * i), kEdge, kSteel);
   if (n < 1) return;
-  // The flanges' letters: b1 at the first rectangle (the upper flange, drawn on top), b2 at the
-  // last, as the dialog's fields name them; the plates carry B on the plate.
+  // The flanges' letters as the dialog's fields name them: b1 above the upper flange, b2 below the
+  // lower one, whatever the order of the rectangles; the plates carry B on the plate.
   auto label = [&](int rect, const char* letter, bool above) {
     const Point a = At(sec, 2 * rect - 1), b = At(sec, 2 * rect);
     const double y = above ? std::max(a.y, b.y) + unit : std::min(a.y, b.y) - unit;
-    c.Text({(a.x + b.x) / 2, y}, letter, LetterFont(), HAlign::Center, above ? VAlign::Bottom : VAlign::Top);
+    // Beside the z axis, which runs through the middle, at three quarters of the plate.
+    c.Text({0.25 * std::min(a.x, b.x) + 0.75 * std::max(a.x, b.x), y}, letter, LetterFont(), HAlign::Center,
+           above ? VAlign::Bottom : VAlign::Top);
   };
+  // The upper flange reaches highest (the widest plate where a web reaches as high), the lower one
+  // lowest.
+  int top = 1, bottom = 1;
+  auto hi = [&](int i) { return std::max(At(sec, 2 * i - 1).y, At(sec, 2 * i).y); };
+  auto lo = [&](int i) { return std::min(At(sec, 2 * i - 1).y, At(sec, 2 * i).y); };
+  auto wide = [&](int i) { return std::fabs(At(sec, 2 * i).x - At(sec, 2 * i - 1).x); };
+  for (int i = 2; i <= n; ++i) {
+    if (hi(i) > hi(top) || (hi(i) == hi(top) && wide(i) > wide(top))) top = i;
+    if (lo(i) < lo(bottom) || (lo(i) == lo(bottom) && wide(i) > wide(bottom))) bottom = i;
+  }
   if (type >= 51 && type <= 56) {
-    label(1, "B", true);
+    label(top, "B", true);
   } else if (n >= 3) {
-    label(1, "b1", true);
-    label(n, "b2", false);
+    label(top, "b1", true);
+    label(bottom, "b2", false);
   }
 }
 
