@@ -7,6 +7,7 @@
 // Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
 // calculation error.
 #include <unistd.h>
+#include <ctime>
 
 #include <climits>
 #include <cstdio>
@@ -26,6 +27,7 @@
 #include "export/spreadsheet_export.h"
 #include "graphics/canvas.h"
 #include "results/detail_table.h"
+#include "results/report.h"
 #include "results/summary.h"
 
 namespace {
@@ -37,6 +39,8 @@ const char* kUsage =
     "  --json               print the whole state as JSON\n"
     "  --summary            print the summary of controls\n"
     "  --detail             print the table of detailed results\n"
+    "  --report KIND        print the report \"section\" (Section Property and Capacity) or\n"
+    "                       \"stability\" (Section and Stability Control) as text\n"
     "  --save PATH          save the project to PATH\n"
     "  --xlsx PATH          write the table of detailed results to an .xlsx workbook\n"
     "  --csv PATH           write the table of detailed results as comma-separated text\n"
@@ -89,7 +93,8 @@ int main(int argc, char** argv) {
   std::string projectPath, savePath, dataDir, svgDir;
   std::optional<std::string> xlsxPath, csvPath;  // given, even empty: written (or refused)
   std::vector<std::string> events;
-  enum class Out { Project, Json, Summary, Detail, Controls } out = Out::Project;
+  enum class Out { Project, Json, Summary, Detail, Report, Controls } out = Out::Project;
+  vn::ReportKind reportKind = vn::ReportKind::SectionCapacity;
   int decimal = -1;  // -1 from the locale
   for (int i = 1; i < argc; ++i) {
     std::string a = argv[i];
@@ -112,7 +117,15 @@ int main(int argc, char** argv) {
       out = Out::Detail;
     else if (a == "--controls")
       out = Out::Controls;
-    else if (a == "--save")
+    else if (a == "--report") {
+      const std::string kind = next("section or stability");
+      if (kind != "section" && kind != "stability") {
+        std::cerr << "varnelt-cli: --report takes section or stability, not " << kind << "\n";
+        return 2;
+      }
+      out = Out::Report;
+      reportKind = kind == "section" ? vn::ReportKind::SectionCapacity : vn::ReportKind::Stability;
+    } else if (a == "--save")
       savePath = next("PATH");
     else if (a == "--xlsx")
       xlsxPath = next("PATH");
@@ -206,6 +219,14 @@ int main(int argc, char** argv) {
     case Out::Json: std::cout << vn::StateToJson(s) << "\n"; break;
     case Out::Summary: std::cout << vn::SummaryText(s); break;
     case Out::Detail: std::cout << vn::cli::DetailText(s); break;
+    case Out::Report: {
+      const std::time_t now = std::time(nullptr);
+      char date[16], clock[16];
+      std::strftime(date, sizeof date, "%d.%m.%Y", std::localtime(&now));
+      std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));
+      std::cout << vn::ReportText(vn::BuildReport(s, reportKind, date, clock));
+      break;
+    }
     case Out::Project: std::cout << vn::cli::ProjectText(s); break;
     case Out::Controls: break;
   }

@@ -3,6 +3,7 @@
 //   varnelt [PROJECT.vnt]
 //   varnelt --screenshot PATH [PROJECT.vnt]        the main form as a PNG picture, no display needed
 //   varnelt --screenshot-dialog NAME PATH [PROJECT] a dialog ("p01") as a PNG picture
+//   varnelt --screenshot-report KIND PATH [PROJECT] the printed report "section" or "stability"
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
@@ -16,6 +17,7 @@
 #include "export/spreadsheet_export.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
+#include "forms/report_page.h"
 #include "forms/session.h"
 #include "forms/settings_store.h"
 
@@ -24,7 +26,8 @@ namespace {
 const char* kUsage =
     "usage: varnelt [PROJECT.vnt]\n"
     "       varnelt --screenshot PATH [PROJECT.vnt]\n"
-    "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n";
+    "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n"
+    "       varnelt --screenshot-report section|stability PATH [PROJECT.vnt]\n";
 
 // Lets the window settle: layouts, deferred events, the first paint.
 void Settle() {
@@ -44,7 +47,7 @@ bool Save(QWidget* w, const QString& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::string shotPath, dialogName, projectPath;
+  std::string shotPath, dialogName, reportKind, projectPath;
   bool shot = false;
   for (int i = 1; i < argc; ++i) {
     const std::string a = argv[i];
@@ -55,6 +58,14 @@ int main(int argc, char** argv) {
       shot = true;
       dialogName = argv[++i];
       shotPath = argv[++i];
+    } else if (a == "--screenshot-report" && i + 2 < argc) {
+      shot = true;
+      reportKind = argv[++i];
+      shotPath = argv[++i];
+      if (reportKind != "section" && reportKind != "stability") {
+        std::fprintf(stderr, "varnelt: --screenshot-report takes section or stability\n");
+        return 2;
+      }
     } else if (a == "--help" || a == "-h") {
       std::fputs(kUsage, stdout);
       return 0;
@@ -100,6 +111,12 @@ int main(int argc, char** argv) {
     }
   }
 
+  if (shot && !reportKind.empty()) {
+    const auto kind = reportKind == "section" ? vn::ReportKind::SectionCapacity : vn::ReportKind::Stability;
+    if (vn::forms::SaveReportPicture(session.state(), kind, QString::fromStdString(shotPath))) return 0;
+    std::fprintf(stderr, "varnelt: can't write %s\n", shotPath.c_str());
+    return 3;
+  }
   if (shot) {
     form.show();
     if (dialogName.empty()) return Save(&form, QString::fromStdString(shotPath)) ? 0 : 3;

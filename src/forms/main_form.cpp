@@ -33,6 +33,7 @@
 #include "forms/painter_canvas.h"
 #include "forms/picture_box.h"
 #include "forms/profiles.h"
+#include "forms/report_page.h"
 #include "forms/section_dialog.h"
 #include "forms/session.h"
 #include "graphics/section_figure.h"
@@ -145,7 +146,9 @@ const char* const kSupportTips[6] = {"Simply supported",
 // Menu entries the form handles itself, whether or not the core has a control for them.
 bool FormHandles(const std::string& control) {
   return control == "mnuexit" || control == "mnuabout" || control == "mnuProfDB" ||
-         control == "mnuhelpcont" || control == "mnuhelpsearch" || control == "mnuTheory";
+         control == "mnuhelpcont" || control == "mnuhelpsearch" || control == "mnuTheory" ||
+         control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" ||
+         control == "mnuprint11";
 }
 
 // The help page, copied beside the program into help/.
@@ -710,6 +713,14 @@ void MainForm::onMenu(const std::string& control) {
   if (control == "mnuhelpcont" || control == "mnuhelpsearch") {
     // The help page has no search of its own: both entries open it.
     OpenDocument(this, HelpPagePath(session_), QStringLiteral("Help not found: "));
+    return;
+  }
+  if (control == "mnuprint0" || control == "mnuprint00") {
+    PrintReport(this, s, ReportKind::SectionCapacity);
+    return;
+  }
+  if (control == "mnuprint1" || control == "mnuprint11") {
+    PrintReport(this, s, ReportKind::Stability);
     return;
   }
   if (control == "mnuTheory") {

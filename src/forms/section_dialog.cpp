@@ -63,27 +63,6 @@ QString ValueBlock::valueOf(const QString& label) const {
   return {};
 }
 
-SectionBlocks SplitSectionValues(const std::vector<View::Line>& lines) {
-  SectionBlocks b;
-  bool properties = false, capacity = false;
-  for (size_t i = 0; i < lines.size(); ++i) {
-    const View::Line& l = lines[i];
-    // The capacity starts at the first class line, or at the heading just before it ("Top flange
-    // in compression").
-    const bool heading = l.value.empty() && l.unit.empty() && i + 1 < lines.size() &&
-                         lines[i + 1].label == "Cross Section Class: ";
-    if (l.label == "Cross Section Class: " || heading) capacity = true;
-    if (l.label == "A =") properties = true;
-    if (capacity)
-      b.capacity.push_back(l);
-    else if (!properties || l.label == "g =" || l.label == "S =")
-      b.dimensions.push_back(l);
-    else
-      b.properties.push_back(l);
-  }
-  return b;
-}
-
 // ---- The typed dimensions and options ----
 
 namespace {

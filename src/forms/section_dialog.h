@@ -14,6 +14,7 @@
 
 #include "core/view.h"
 #include "forms/profiles.h"
+#include "results/report.h"
 
 class QComboBox;
 class QGridLayout;
@@ -40,14 +41,6 @@ class ValueBlock : public QWidget {
   QGridLayout* grid_;
   std::vector<View::Line> lines_;
 };
-
-// The three frames of a section's values. The core gives them as one list: the dimension lines come
-// first, up to the area "A ="; "g =" and "S =" belong to the dimension frame as well; the capacity
-// starts at the line "Cross Section Class: ".
-struct SectionBlocks {
-  std::vector<View::Line> dimensions, properties, capacity;
-};
-SectionBlocks SplitSectionValues(const std::vector<View::Line>& lines);
 
 class SectionDialog : public QDialog {
   Q_OBJECT

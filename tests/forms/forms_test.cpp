@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QGroupBox>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -26,6 +27,7 @@
 #include "forms/look.h"
 #include "forms/main_form.h"
 #include "forms/picture_box.h"
+#include "forms/report_page.h"
 #include "forms/section_dialog.h"
 #include "forms/session.h"
 #include "graphics/canvas.h"
@@ -86,6 +88,27 @@ class FormsTest : public QObject {
     form.reset();
     session.reset();
     ResetBoxes();
+  }
+
+  // ---- the printed reports ----
+
+  void printEntriesAreOfferedAndTheReportPageIsDrawn() {
+    for (const char* entry : {"mnuprint0", "mnuprint00", "mnuprint1", "mnuprint11"}) {
+      QAction* a = form->menuAction(entry);
+      QVERIFY(a);
+      QVERIFY2(a->isEnabled(), entry);
+    }
+    QTemporaryDir dir;
+    const QString path = dir.filePath("stability.png");
+    QVERIFY(SaveReportPicture(session->state(), vn::ReportKind::Stability, path));
+    QImage page(path);
+    QCOMPARE(page.size(), QSize(1240, 1754));  // A4 at 150 dpi
+    // The green of a ratio that passes stands somewhere on the page.
+    bool green = false;
+    for (int y = 0; y < page.height() && !green; y += 2)
+      for (int x = page.width() / 2; x < page.width() && !green; ++x)
+        green = page.pixelColor(x, y) == QColor(0, 128, 0);
+    QVERIFY(green);
   }
 
   // ---- the field protocol ----
@@ -348,24 +371,6 @@ class FormsTest : public QObject {
   }
 
   // ---- the section dialog ----
-
-  void sectionValuesFallIntoTheirThreeFrames() {
-    using Line = vn::View::Line;
-    std::vector<Line> lines{{"h =", "190", " mm"},
-                            {"b =", "200", " mm"},
-                            {"A =", "5383", " mm2"},
-                            {"Iy =", "3.692E+7", " mm4"},
-                            {"g =", "42.3", " kg/m"},
-                            {"S =", "1.136", " m2/m"},
-                            {"Cross Section Class: ", "1/1/1", "(N/My/Mz)"},
-                            {"Nc,Rd =", "1265.0", " kN"}};
-    SectionBlocks b = SplitSectionValues(lines);
-    QCOMPARE(int(b.dimensions.size()), 4);  // h, b, g, S
-    QCOMPARE(b.dimensions[2].label, std::string("g ="));
-    QCOMPARE(int(b.properties.size()), 2);  // A, Iy
-    QCOMPARE(int(b.capacity.size()), 2);
-    QCOMPARE(b.capacity[0].value, std::string("1/1/1"));
-  }
 
   void sectionDialogShowsTheFamilysListAndValues() {
     // What the family's routines leave in the View, as a stand-in.
