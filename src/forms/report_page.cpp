@@ -57,7 +57,7 @@ void PaintReport(QPainter& p, const QRectF& page, const State& s, const Report& 
 
   // The blocks; the controls take the whole width, their ratios in a column of their own.
   const double valueX = left + 330 * u, unitX = left + 450 * u, extraX = left + 560 * u;
-  const double ratioX = left + 630 * u, limitX = left + 675 * u;
+  const double ratioX = left + 610 * u, limitX = left + 675 * u;
   const double bottom = r.figures ? page.top() + page.height() * 0.74 : page.bottom() - 40 * u;
   for (const ReportLine& l : r.lines) {
     if (y > bottom) break;  // one page: what does not fit is left out
@@ -92,7 +92,9 @@ void PaintReport(QPainter& p, const QRectF& page, const State& s, const Report& 
         const QColor colour = l.colour == 4   ? QColor(255, 0, 0)
                               : l.colour == 2 ? QColor(0, 128, 0)
                                               : Qt::black;
-        text(ratioX, y, l.value, bold, colour);
+        // The ratio ends just before the limit, whatever stands before it.
+        const double ratioWidth = QFontMetricsF(bold).horizontalAdvance(QString::fromStdString(l.value));
+        text(limitX - 8 * u - ratioWidth, y, l.value, bold, colour);
         text(limitX, y, l.unit, font);
         if (!rest.isEmpty()) {
           y += line;
