@@ -154,33 +154,14 @@ void SelectBySign(State& s, bool upgrade) {
   Section& c = s.section;
   const Project& p = s.project;
   const double fyk = p.fyk, g0 = p.gammaM0;
-  const bool elastic = On(p.elasticClass12);
   auto moment = [&](double W) { return Div(Div(W * fyk, g0), 1e6); };
-  if (c.classMyPos <= 2 && !elastic) {
-    c.WyPos = c.Wply;
-    c.MyRdPos = ToSingle(c.MplyRd);
-  } else if (c.classMyPos == 4) {
-    c.WyPos = ToSingle(c.Weffy1);
-    c.MyRdPos = ToSingle(c.MeffyRd1);
-  } else {
-    c.WyPos = c.Wely;
-    c.MyRdPos = ToSingle(c.MelyRd);
-  }
+  SelectForSign(s, c.classMyPos, c.Wely, c.Weffy1, c.MeffyRd1, c.WyPos, c.MyRdPos);
   if (upgrade && c.classMyPos == 23) {
     UpgradeWplTop(s);
     c.WyPos = c.WplyBot;
     c.MyRdPos = ToSingle(moment(c.WplyBot));
   }
-  if (c.classMyNeg <= 2 && !elastic) {
-    c.WyNeg = c.Wply;
-    c.MyRdNeg = ToSingle(c.MplyRd);
-  } else if (c.classMyNeg == 4) {
-    c.WyNeg = ToSingle(c.Weffy2);
-    c.MyRdNeg = ToSingle(c.MeffyRd2);
-  } else {
-    c.WyNeg = c.Wely;
-    c.MyRdNeg = ToSingle(c.MelyRd);
-  }
+  SelectForSign(s, c.classMyNeg, c.Wely, c.Weffy2, c.MeffyRd2, c.WyNeg, c.MyRdNeg);
   if (upgrade && c.classMyNeg == 23) {
     UpgradeWplBot(s);
     c.WyNeg = c.WplyTop;

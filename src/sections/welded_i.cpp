@@ -111,6 +111,21 @@ Single NominalWeld(Single tw) {
   return r < 4 ? Single{4} : r;
 }
 
+void SelectForSign(const State& s, double cls, Single Wel, double Weff, double MeffRd, Single& Wy,
+                   Single& MyRd) {
+  const Section& c = s.section;
+  if (cls <= 2 && s.project.elasticClass12 == 0) {
+    Wy = c.Wply;
+    MyRd = ToSingle(c.MplyRd);
+  } else if (cls == 4) {
+    Wy = ToSingle(Weff);
+    MyRd = ToSingle(MeffRd);
+  } else {
+    Wy = Wel;
+    MyRd = ToSingle(c.MelyRd);
+  }
+}
+
 double PlateClass(Single slender, double eps, double k1, double k2, double k3, bool strict) {
   auto within = [&](double k) {
     const Single limit = ToSingle(k * eps);
@@ -423,27 +438,8 @@ void SingleSymClasses(State& s) {
   c.NRdBuck = Div(c.NcRd * g0, g1);
 
   // 5. The resistance of each sign; the elastic one rests on the smaller modulus in both.
-  const bool elastic = On(p.elasticClass12);
-  if (c.classMyPos <= 2 && !elastic) {
-    c.WyPos = c.Wply;
-    c.MyRdPos = ToSingle(c.MplyRd);
-  } else if (c.classMyPos == 4) {
-    c.WyPos = ToSingle(c.Weffy1);
-    c.MyRdPos = ToSingle(c.MeffyRd1);
-  } else {
-    c.WyPos = c.Wyt;
-    c.MyRdPos = ToSingle(c.MelyRd);
-  }
-  if (c.classMyNeg <= 2 && !elastic) {
-    c.WyNeg = c.Wply;
-    c.MyRdNeg = ToSingle(c.MplyRd);
-  } else if (c.classMyNeg == 4) {
-    c.WyNeg = ToSingle(c.Weffy2);
-    c.MyRdNeg = ToSingle(c.MeffyRd2);
-  } else {
-    c.WyNeg = c.Wyb;
-    c.MyRdNeg = ToSingle(c.MelyRd);
-  }
+  SelectForSign(s, c.classMyPos, c.Wyt, c.Weffy1, c.MeffyRd1, c.WyPos, c.MyRdPos);
+  SelectForSign(s, c.classMyNeg, c.Wyb, c.Weffy2, c.MeffyRd2, c.WyNeg, c.MyRdNeg);
 
   // 6.
   c.MyRdBuckNeg = Div(static_cast<double>(c.MyRdNeg) * g0, g1);

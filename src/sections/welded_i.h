@@ -53,6 +53,12 @@ double PlasticModulusAbout(std::span<const Plate> plates, double zpl);
 // The nominal weld of a girder, 0.4 tw but at least 4 mm, which stands where the root radius of a
 // rolled section stands.
 Single NominalWeld(Single tw);
+
+// The modulus and the resistance the class `cls` selects for one sign of My: plastic for classes
+// 1 and 2 (unless the design is elastic), the effective pair's for class 4, else the elastic
+// modulus `Wel` with MelyRd.
+void SelectForSign(const State& s, double cls, Single Wel, double Weff, double MeffRd, Single& Wy,
+                   Single& MyRd);
 // Class 1 to 3 by three limits times epsilon, else 4: the slenderness and each product are singles.
 // `strict` compares with "<", otherwise with "<=".
 double PlateClass(Single slender, double eps, double k1, double k2, double k3, bool strict);
