@@ -447,7 +447,7 @@ void SingleSymClasses(State& s) {
   c.MyRdBuck = std::min(c.MyRdBuckPos, c.MyRdBuckNeg);
 
   // 7. About z as for the rolled I.
-  if (c.classMz <= 2 && !elastic) {
+  if (c.classMz <= 2 && !On(p.elasticClass12)) {
     c.Wz = c.Wplz;
     c.MzRdClass = c.MplzRd;
   } else if (c.classMz == 4) {
