@@ -193,7 +193,8 @@ void AngleBlocks(Block& out, const Section& c) {
   out.Line("Iw =", c.Iw, "0.000E+0", " mm6");
   out.Line("g =", c.g, "#0.0", " kg/m");
   out.Line("S =", c.S, "#0.000", " m2/m");
-  out.Line("Aeff =", c.Aeff, "##0", " mm2");
+  // Only a class 4 angle has an effective area.
+  if (c.classN == 4) out.Line("Aeff =", c.Aeff, "##0", " mm2");
   out.s.view.sectionValues.push_back(
       {"Cross Section Class: ", ClassText(c, out.s.decimalComma), "(N/My/Mz)"});
   out.Line("Nt,Rd =", c.NtRd, "#0.0", " kN");
