@@ -247,6 +247,65 @@ TEST(PlateFlat, EffectiveModuliOfEachSide) {
   EXPECT_TRUE(Near(c.WeffyBot2, 91073.953, kChain));
 }
 
+// Plate 300x20 with a T 580 x 300 x 12 x 20 (the defaults of the dialog): a double symmetric I
+// 600 deep. A = 6000 + 560*12 + 6000 = 18720; Iy = 2 (300*20^3/12 + 6000*290^2) + 12*560^3/12
+// = 1.185216e9; Wpl,y = 2*6000*290 + 2*12*280*140 = 4 420 800; c1/tf1 = 144/20 = 7.2 < 9 epsilon
+// = 7.32 and d/tw = 46.7 < 72 epsilon: class 1 both ways; My,Rd = 4420800*355/1e6 = 1569.384 kNm;
+// Vz,Rd = 1.2*560*12*355/sqrt 3/1000 = 1652.792 kN.
+TEST(PlateTee, DefaultGirderByHand) {
+  State s = StartedState();
+  Fire(s, "mnuplateTg");
+  const Section& c = s.section;
+  EXPECT_TRUE(Near(c.A, 18720, kHand));
+  EXPECT_TRUE(Near(c.Iy, 1.185216e9, kHand));
+  EXPECT_TRUE(Near(c.Wply, 4420800, kHand));
+  EXPECT_EQ(c.classMyPos, 1);
+  EXPECT_EQ(c.classMyNeg, 1);
+  EXPECT_TRUE(Near(c.MyRdPos, 1569.384, kHand));
+  EXPECT_TRUE(Near(c.VzRd, 1652.792, kHand));
+}
+
+// Plate 600x10 with the bulb flat HP 100x7 (h 100, tw 7, c 15, r 5, A 868.1) as an equivalent T:
+//   b2 = c + tw - 0.45 r = 19.75; tf2 = (868.1 - 700)/(19.75 - 7) = 13.184314
+//   A = 868.1 + 6000 = 6868.1; from the lower edge ezb = 96.985795, so ez = 110 - ezb = 13.014205
+//   Iy = 3 940 045 mm4; Wel,yt = Iy/13.014205 = 302 750, Wel,yb = Iy/96.985795 = 40 625
+//   A/2 = 3434.05 < 6000 of the plate: zpl = 3434.05/600 = 5.723417 in the plate, Wpl,y = 69 728.4
+TEST(PlateBulb, EquivalentTeeByHand) {
+  State s = StartedState();
+  Fire(s, "mnuplateBf");
+  ASSERT_EQ(s.project.SelectedRow[catHp], 5);  // HP 100x7
+  const Section& c = s.section;
+  EXPECT_TRUE(Near(c.b2, 19.75, kHand));
+  EXPECT_TRUE(Near(c.tf2, 13.184314, kHand));
+  EXPECT_TRUE(Near(c.A, 6868.1, kHand));
+  EXPECT_TRUE(Near(c.ez, 13.014205, {1e-5, "hand calculation to 7 digits"}));
+  EXPECT_TRUE(Near(c.Iy, 3940045, {1e-5, "hand calculation to 7 digits"}));
+  EXPECT_TRUE(Near(c.Wyt, 302750, {1e-5, "hand calculation to 6 digits"}));
+  EXPECT_TRUE(Near(c.Wyb, 40625, {1e-5, "hand calculation to 5 digits"}));
+  EXPECT_TRUE(Near(c.zpl, 5.723417, kHand));
+  EXPECT_TRUE(Near(c.Wply, 69728.4, {1e-5, "hand calculation to 6 digits"}));
+}
+
+// Plate 600x10 with a welded L 300 x 100 x 11.5 x 16 (the defaults of the dialog):
+//   A = 1600 + 284*11.5 + 6000 = 10866; ezb = 217.08338 from the lower edge, ez = 92.916621
+//   Iy = 1.4975848e8; Wel,yt = 1 611 751, Wel,yb = 689 866
+//   zpl = 5433/600 = 9.055 in the plate; Wpl,y = 960 436.2; hogging (the stiffener compressed):
+//   c1/tf1 of the plate does not count, class 1: My,Rd = 960436.2*355/1e6 = 340.9548 kNm.
+TEST(PlateWeldedAngle, DefaultStiffenerByHand) {
+  State s = StartedState();
+  Fire(s, "mnuplateLweld");
+  const Section& c = s.section;
+  EXPECT_TRUE(Near(c.A, 10866, kHand));
+  EXPECT_TRUE(Near(c.ez, 92.916621, kHand));
+  EXPECT_TRUE(Near(c.Iy, 1.4975848e8, kHand));
+  EXPECT_TRUE(Near(c.Wyt, 1611751, kHand));
+  EXPECT_TRUE(Near(c.Wyb, 689866.2, kHand));
+  EXPECT_TRUE(Near(c.zpl, 9.055, kHand));
+  EXPECT_TRUE(Near(c.Wply, 960436.2, kHand));
+  EXPECT_EQ(c.classMyNeg, 1);
+  EXPECT_TRUE(Near(c.MyRdNeg, 340.9548, kHand));
+}
+
 // Every plate family gives a section from its defaults of the dialogs.
 TEST(PlateFamilies, MenuEntriesGiveCompleteSections) {
   for (const char* menu : {"mnup24", "mnup25", "mnup27", "mnuplateFb", "mnuplateLr", "mnuplateLweld",
