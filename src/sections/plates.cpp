@@ -185,37 +185,29 @@ void PlateFlatProperties(State& s) {
   PlateFigure(s, plates);
 }
 
-void PlateWeldedAngleProperties(State& s) {
+namespace {
+
+// The plate with a welded stiffener of three plates: an L (53) or a T (56).
+void WeldedStiffenerProperties(State& s, int type, const PlateWeldedInput& in, bool angle) {
   Section& c = s.section;
-  const PlateWeldedInput& in = s.project.p53;
-  const Stiffener st{in.isth, in.isttw, in.istb2, in.isttf2, true};
+  const Stiffener st{in.isth, in.isttw, in.istb2, in.isttf2, angle};
   std::array<Plate, 3> rects{};
   const auto plates = PlateSection(s, in.istb1, in.isttf1, st, rects);
   FibreModuli(c);
   c.g = ToSingle(static_cast<double>(s.project.rho) * c.A * 1e-6);
   c.S = ToSingle((2 * (st.b2 + c.b1 + c.h) - 2 * st.tw) / 1000);
   PlasticAxis(s, plates);
-  SetSectionName(s, 53,
-                 PlateName(s, c.b1, c.tf1) + " + L " + Dim(s, st.hs) + "x" + Dim(s, st.b2) + "x" +
-                     Dim(s, st.tw) + "x" + Dim(s, st.tf2));
+  SetSectionName(s, type,
+                 PlateName(s, c.b1, c.tf1) + (angle ? " + L " : " + T ") + Dim(s, st.hs) + "x" +
+                     Dim(s, st.b2) + "x" + Dim(s, st.tw) + "x" + Dim(s, st.tf2));
   PlateFigure(s, plates);
 }
 
-void PlateTeeProperties(State& s) {
-  Section& c = s.section;
-  const PlateWeldedInput& in = s.project.p56;
-  const Stiffener st{in.isth, in.isttw, in.istb2, in.isttf2, false};
-  std::array<Plate, 3> rects{};
-  const auto plates = PlateSection(s, in.istb1, in.isttf1, st, rects);
-  FibreModuli(c);
-  c.g = ToSingle(static_cast<double>(s.project.rho) * c.A * 1e-6);
-  c.S = ToSingle((2 * (st.b2 + c.b1 + c.h) - 2 * st.tw) / 1000);
-  PlasticAxis(s, plates);
-  SetSectionName(s, 56,
-                 PlateName(s, c.b1, c.tf1) + " + T " + Dim(s, st.hs) + "x" + Dim(s, st.b2) + "x" +
-                     Dim(s, st.tw) + "x" + Dim(s, st.tf2));
-  PlateFigure(s, plates);
-}
+}  // namespace
+
+void PlateWeldedAngleProperties(State& s) { WeldedStiffenerProperties(s, 53, s.project.p53, true); }
+
+void PlateTeeProperties(State& s) { WeldedStiffenerProperties(s, 56, s.project.p56, false); }
 
 void PlateAngleProperties(State& s) {
   Section& c = s.section;
