@@ -28,7 +28,9 @@ int BucklingPicture(Single factor, Integer bucklingCase) {
   return pic;
 }
 
-void ShowFactors(State& s) {
+}  // namespace
+
+void ShowBucklingFactors(State& s) {
   const Project& p = s.project;
   View& v = s.view;
   v.text["ibly"] = FormatNumber(p.bucklingFactorY, "#0.00", s.decimalComma);
@@ -36,6 +38,8 @@ void ShowFactors(State& s) {
   v.value["cbuttbucklingy"] = BucklingPicture(p.bucklingFactorY, p.bucklingCaseY);
   v.value["cbuttbucklingz"] = BucklingPicture(p.bucklingFactorZ, p.bucklingCaseZ);
 }
+
+namespace {
 
 // The dialog marks the button of the current case; case 6 marks the hidden button 6.
 void MarkCase(State& s, const std::string& form, Integer bucklingCase) {
@@ -77,7 +81,7 @@ void ApplySupportTypeToBuckling(State& s) {
     p.bucklingCaseZ = static_cast<Integer>(c);
     p.bucklingFactorZ = BucklingFactorOfCase(c);
   }
-  ShowFactors(s);
+  ShowBucklingFactors(s);
 }
 
 void RegisterBucklingDialogControls(ControlTable& t) {
@@ -89,7 +93,7 @@ void RegisterBucklingDialogControls(ControlTable& t) {
         (axis == 0 ? p.bucklingCaseY : p.bucklingCaseZ) = static_cast<Integer>(c);
         (axis == 0 ? p.bucklingFactorY : p.bucklingFactorZ) = BucklingFactorOfCase(c);
         MarkCase(s, form, static_cast<Integer>(c));
-        ShowFactors(s);
+        ShowBucklingFactors(s);
         Recalculate(s);
         return EventResult{};
       };

@@ -101,6 +101,8 @@ void RefreshCheckPointTable(State& s);
 Single BucklingFactorOfCase(int bucklingCase);
 // The case set by a support type on an axis whose case is not a user choice (5 or 6).
 void ApplySupportTypeToBuckling(State& s);
+// The factor fields ibly, iblz and the pictures of their buttons from the record.
+void ShowBucklingFactors(State& s);
 
 // ---- Modal analysis (modal.cpp) ----
 

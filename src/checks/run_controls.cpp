@@ -1,5 +1,7 @@
 // The control dispatcher: clears the governing ratios, picks the section control and the buckling
 // control of the family, and runs the buckling control only where its condition holds.
+#include <limits>
+
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
 #include "core/pipeline.h"
@@ -48,11 +50,47 @@ void ClearBucklingTexts(Checks& k) {
   ClearText(k.buckTextLT);
 }
 
+// The working values the table of detailed results and the report show. A run marks them "not
+// computed" (NaN) first, so that a value the family's controls do not reach (the LT values of an
+// angle, XLt in the general case) is shown blank instead of an earlier section's. A control that
+// reads one of them before it is computed ends in the calculation message (the checked division
+// refuses a NaN), never in a ratio built on another section's value.
+void MarkShownValuesNotComputed(Checks& k) {
+  const double none = std::numeric_limits<double>::quiet_NaN();
+  for (Number* v :
+       {&k.Mcr,  &k.lamdaLT, &k.Mcr0,   &k.lamda0, &k.XLt,  &k.xLT,   &k.kc,  &k.fLT, &k.Ncry, &k.lamday,
+        &k.chiy, &k.Ncrz,    &k.lamdaz, &k.chiz,   &k.NcrT, &k.NcrTF, &k.kyy, &k.kyz, &k.kzz,  &k.kzy,
+        &k.Cmy,  &k.Cmy0,    &k.Cmz,    &k.CmLt,   &k.Cyy,  &k.Cyz,   &k.Czy, &k.Czz, &k.aLt,  &k.bLt,
+        &k.cLt,  &k.dLt,     &k.eLt,    &k.npl,    &k.uy,   &k.uz,    &k.wy,  &k.wz,  &k.ey})
+    *v = none;
+}
+
 }  // namespace
 
 void RunControls(State& s) {
   Analysis& an = s.analysis;
   Checks& k = s.checks;
+
+  // Some families read what the run before left: an angle takes kc of the last LT run (Method 1)
+  // and, like the single symmetric I, the interaction factors of Method 2, for which they have no
+  // formula; INP has no row of the rolled LT curve and keeps its reduction factors. Those values
+  // are kept, and shown, as they were used.
+  const Checks before = k;
+  MarkShownValuesNotComputed(k);
+  const int family = s.project.ProfileType;
+  if (family == 10 || family == 11) k.kc = before.kc;
+  if (family == 10 || family == 11 || family == 22) {
+    k.kyy = before.kyy;
+    k.kyz = before.kyz;
+    k.kzy = before.kzy;
+    k.kzz = before.kzz;
+  }
+  if (family == 15 && s.project.ltbCurve == 3) {
+    k.lamdaLT = before.lamdaLT;
+    k.fLT = before.fLT;
+    k.XLt = before.XLt;
+    k.xLT = before.xLT;
+  }
 
   // 1.
   an.IRsection = 0;

@@ -61,7 +61,10 @@ std::string ShearResistancesOf(State& s, double NEd, double MyEd, double b, doub
     double Vbf = 0;
     c.MfyRd = c.MfyRd * (1 - Div(std::fabs(NEd), Div(2 * b * tf * fyk, g0)));
     if (MyEd < c.MfyRd) {
-      const double cFlange = p.a * (0.25 + Div(1.6 * b * tf * tf, hw * hw * tw));
+      // Without intermediate stiffeners the panel is the whole member, whatever a holds (a new
+      // project has 2500 mm there, which on a longer member would overstate Vb,f).
+      const double a = p.webStiffeners == 0 ? 1000.0 * p.L : p.a;
+      const double cFlange = a * (0.25 + Div(1.6 * b * tf * tf, hw * hw * tw));
       const double ratio = Div(MyEd, c.MfyRd);
       Vbf = Div(Div(Div(b * tf * tf * fyk, cFlange), g1) * (1 - ratio * ratio), 1000);
     }

@@ -194,6 +194,15 @@ int main(int argc, char** argv) {
     }
   }
 
+  // After a failed run there are no results: the summary, the tables and the reports give the
+  // message alone, and no file is written.
+  const bool wantsResults =
+      xlsxPath || csvPath || out == Out::Summary || out == Out::Detail || out == Out::Report;
+  if (wantsResults && !s.resultsValid) {
+    std::cerr << s.view.txtError << "\n";
+    return 1;
+  }
+
   // The table of detailed results as the dialog shows it after the events, then written out.
   if (xlsxPath || csvPath) {
     vn::BuildDetailTable(s);

@@ -2,11 +2,14 @@
 
 #include <cctype>
 #include <charconv>
+#include <initializer_list>
+#include <map>
 
 #include "core/control_registry.h"
 #include "core/format.h"
 #include "core/recalculate.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -69,6 +72,42 @@ const ControlTable& Controls() {
   return table;
 }
 
+namespace {
+
+// Frames whose controls are hidden with them.
+struct FrameOf {
+  const char* frame;
+  std::initializer_list<const char*> controls;
+};
+const FrameOf kFrames[] = {
+    {"setup.frULS",
+     {"setup.iLfULS_G", "setup.iLfULS_Q1", "setup.iLfULS_Q2", "setup.iLfSLS_G", "setup.iLfSLS_Q1",
+      "setup.iLfSLS_Q2"}},
+    {"setup.frPsi", {"setup.Cbo_Q1_Psi1", "setup.Cbo_Q2_Psi2"}},
+    {"Loading.frPsi", {"Loading.Cbo_Q1_Psi1", "Loading.Cbo_Q2_Psi2"}},
+    {"frLc", {"CboLoadComb"}},
+};
+
+bool Shown(const std::map<std::string, bool>& flags, const std::string& key) {
+  auto it = flags.find(key);
+  return it == flags.end() || it->second;
+}
+
+// Why a control that the person can't reach on the form takes no event: it is disabled or hidden
+// (itself or its frame). A disabled field must not change a result behind the person's back.
+std::string Unavailable(const State& s, const ControlEntry& e, int index) {
+  std::string key = e.form.empty() ? e.name : e.form + "." + e.name;
+  if (index >= 0) key += "(" + std::to_string(index) + ")";
+  if (!Shown(s.view.enabled, key)) return key + " is disabled";
+  if (!Shown(s.view.visible, key)) return key + " is hidden";
+  for (const FrameOf& f : kFrames)
+    for (const char* c : f.controls)
+      if (key == c && !Shown(s.view.visible, f.frame)) return key + " is hidden (frame " + f.frame + ")";
+  return {};
+}
+
+}  // namespace
+
 EventResult Fire(State& s, std::string_view control, std::string_view text) {
   int index = -1;
   const ControlEntry* e = Controls().Find(control, &index);
@@ -79,9 +118,21 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
     r.message = "Unknown control: " + std::string(control);
     return r;
   }
+  // Events that a handler fires itself (a list set in code) are not the person's input.
+  if (s.fireDepth == 0) {
+    ShowSetupAvailability(s);
+    if (std::string why = Unavailable(s, *e, index); !why.empty()) {
+      EventResult r;
+      r.refused = true;
+      r.message = why;
+      s.view.lastMessage = r.message;
+      return r;
+    }
+  }
   int before = s.recalcCount;
   s.view.runMessage.clear();
   EventResult r;
+  ++s.fireDepth;
   try {
     r = e->run(s, index, text);
   } catch (const std::exception&) {
@@ -90,6 +141,8 @@ EventResult Fire(State& s, std::string_view control, std::string_view text) {
     s.view.txtError = kCalcErrorText;
     s.view.txtErrorVisible = true;
   }
+  --s.fireDepth;
+  if (s.fireDepth == 0) ShowSetupAvailability(s);
   r.recalculated = s.recalcCount != before;
   // A box of the run itself (an HSQ's overloaded flange) when the event has none of its own.
   if (r.message.empty()) r.message = s.view.runMessage;
@@ -145,10 +198,14 @@ EventResult RunNumericField(State& s, const std::string& self, const NumericFiel
     return r;
   }
   r.focus = f.enterFn ? f.enterFn(s) : f.enter;
+  const double taken = f.value(s);
   if (f.after)
     f.after(s);
   else
     Recalculate(s);
+  // The field shows the value in use: a run that replaced it (the strength of a catalogued grade
+  // follows the section) must not leave the typed one on show.
+  if (f.value(s) != taken) r.text = FormatNumber(f.value(s), f.format, s.decimalComma);
   return r;
 }
 

@@ -170,29 +170,24 @@ double ToDouble(const NumberParts& n, bool* overflow) {
   return n.negative ? -v : v;
 }
 
-// Val: the longest numeric prefix, blanks skipped anywhere.
+// The longest numeric prefix after leading blanks: a blank inside ends the number as any other
+// character that can't belong to it, so "2 3" is 2 and "1 000" is 1, never 23 or 1000.
 NumberParts ScanVal(std::string_view t) {
   NumberParts n;
   size_t i = 0;
-  auto skip = [&] {
-    while (i < t.size() && IsBlank(t[i])) ++i;
-  };
-  skip();
+  while (i < t.size() && IsBlank(t[i])) ++i;
   if (i < t.size() && (t[i] == '+' || t[i] == '-')) n.negative = t[i++] == '-';
-  for (skip(); i < t.size() && IsDigit(t[i]); skip()) n.intDigits += t[i++];
+  for (; i < t.size() && IsDigit(t[i]); ++i) n.intDigits += t[i];
   if (i < t.size() && t[i] == '.') {
-    ++i;
-    for (skip(); i < t.size() && IsDigit(t[i]); skip()) n.fracDigits += t[i++];
+    for (++i; i < t.size() && IsDigit(t[i]); ++i) n.fracDigits += t[i];
   }
   if (n.intDigits.empty() && n.fracDigits.empty()) return NumberParts{};
   if (i < t.size() && (t[i] == 'E' || t[i] == 'e' || t[i] == 'D' || t[i] == 'd')) {
     size_t j = i + 1;
-    while (j < t.size() && IsBlank(t[j])) ++j;
     bool neg = false;
     if (j < t.size() && (t[j] == '+' || t[j] == '-')) neg = t[j++] == '-';
     std::string digits;
-    for (; j < t.size() && (IsDigit(t[j]) || IsBlank(t[j])); ++j)
-      if (IsDigit(t[j])) digits += t[j];
+    for (; j < t.size() && IsDigit(t[j]); ++j) digits += t[j];
     if (!digits.empty()) {
       n.expNegative = neg;
       n.expDigits = digits;

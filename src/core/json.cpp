@@ -260,6 +260,7 @@ std::string StateToJson(const State& s) {
     w.Close(']');
   });
   w("txtError", s.view.txtErrorVisible ? s.view.txtError : std::string());
+  w("resultsValid", s.resultsValid);
   w("message", s.view.lastMessage);
   w("decimalComma", s.decimalComma);
   w.Close('}');

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "analysis/member_analysis.h"
 #include "core/control_registry.h"
 #include "core/events.h"
 #include "core/format.h"
@@ -28,22 +29,6 @@ float LtbFactorOfCase(int ltbCase) {
   return 1.0f;
 }
 
-// Picture of the buckling button: dialog button 1 for 2.0, 2 for 1.0, 3 for 0.7, 4 for 0.5, else
-// 6; case 5 shows button 5. The factor is compared exactly, as a Single.
-int BucklingPicture(Single factor, Integer bucklingCase) {
-  int pic = 6;
-  if (factor == 2.0f)
-    pic = 1;
-  else if (factor == 1.0f)
-    pic = 2;
-  else if (factor == 0.7f)
-    pic = 3;
-  else if (factor == 0.5f)
-    pic = 4;
-  if (bucklingCase == 5) pic = 5;
-  return pic;
-}
-
 void AfterFykChange(State& s) {
   Recalculate(s);
   // fyk changes neta, which is re-derived after the run.
@@ -66,18 +51,9 @@ void OnSupportButton(State& s, int type) {
   const bool spring = type == 3 || type == 5;
   v.visible["ispring"] = spring;
   if (spring) v.text["ispring"] = FormatNumber(p.SpringPct, "#0", s.decimalComma);
-  if (p.bucklingCaseY < 5) {
-    p.bucklingCaseY = 2;
-    p.bucklingFactorY = 1.0f;
-  }
-  if (p.bucklingCaseZ < 5) {
-    p.bucklingCaseZ = 2;
-    p.bucklingFactorZ = 1.0f;
-  }
-  v.text["ibly"] = FormatNumber(p.bucklingFactorY, "#0.00", s.decimalComma);
-  v.text["iblz"] = FormatNumber(p.bucklingFactorZ, "#0.00", s.decimalComma);
-  v.value["cbuttbucklingy"] = BucklingPicture(p.bucklingFactorY, p.bucklingCaseY);
-  v.value["cbuttbucklingz"] = BucklingPicture(p.bucklingFactorZ, p.bucklingCaseZ);
+  // The end supports set the buckling length of both axes (a cantilever 2.0, fixed ends 0.5 ...);
+  // a typed factor and "not relevant" stay.
+  ApplySupportTypeToBuckling(s);
 }
 
 void OnLtbCheck(State& s, bool checked) {
@@ -301,10 +277,7 @@ void RefreshMainForm(State& s) {
       (button == v.value.end() || button->second != p.SupportType))
     OnSupportButton(s, p.SupportType);
 
-  v.text["ibly"] = FormatNumber(p.bucklingFactorY, "#0.00", dc);
-  v.text["iblz"] = FormatNumber(p.bucklingFactorZ, "#0.00", dc);
-  v.value["cbuttbucklingy"] = BucklingPicture(p.bucklingFactorY, p.bucklingCaseY);
-  v.value["cbuttbucklingz"] = BucklingPicture(p.bucklingFactorZ, p.bucklingCaseZ);
+  ShowBucklingFactors(s);
 
   const bool modal = p.chModal == 1;
   auto modalNow = v.value.find("ch_modal");
@@ -322,6 +295,7 @@ void RefreshMainForm(State& s) {
   v.value["cbobcz"] = p.bucklingCurveZ;
 
   BuildCaption(s);
+  ShowSetupAvailability(s);
   // The list selections above fire their Click events; one run with the record as it stands
   // gives the same results.
   Recalculate(s);

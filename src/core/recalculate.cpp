@@ -2,35 +2,88 @@
 
 #include "core/pipeline.h"
 #include "core/state.h"
+#include "graphics/section_figure.h"
+
+#include <cmath>
+#include <string>
 
 namespace vn {
+
+namespace {
+
+// A ratio that is negative, not a number or infinite compares as nothing: it is a failed run
+// (an axial force past the critical one makes 1 - N/Ncr negative), never a green line.
+void CheckRatio(double ratio) {
+  if (!std::isfinite(ratio) || ratio < 0) throw CalcFault("ratio out of its range");
+}
+
+void CheckRatios(const State& s) {
+  const Checks& k = s.checks;
+  for (size_t g = 1; g < k.IRsec.size(); ++g) CheckRatio(k.IRsec[g]);
+  CheckRatio(k.IRbuckY);
+  CheckRatio(k.IRbuckZ);
+  CheckRatio(k.IRbuckLT);
+  CheckRatio(s.analysis.IRsection);
+  CheckRatio(s.analysis.IRbuckling);
+}
+
+enum class Reached { Nothing, Section, SectionShown, Figure };
+
+// What a failed run leaves on show: the results of its own stages that ended, nothing of an
+// earlier run. The summary, the charts, the member figure, the capacity texts and the table of
+// detailed results go; the section values and its figure go too when their stage did not end.
+void VoidResults(State& s, Reached reached) {
+  View& v = s.view;
+  v.summary.clear();
+  v.detailGrid.clear();
+  v.detailGridBold.clear();
+  for (const char* picture : {"PicLoadZ", "PicMy", "PicLoadY", "PicMz", "pic11"}) v.pictures.erase(picture);
+  for (const char* label : {"ovplzrd", "ovbzrd", "owebcc", "obcy", "obcz", "endstiff.ovbrzd",
+                            "Modal_ns.massa", "Modal_ns.mod1", "Modal_ns.mod2", "Modal_ns.mod3"})
+    if (v.text.count(label)) v.text[label].clear();
+  if (reached < Reached::SectionShown) v.sectionValues.clear();
+  if (reached < Reached::Figure) {
+    const std::string box = SectionFigureBox(s.project.ProfileType);
+    if (!box.empty()) v.pictures.erase(box);
+  }
+}
+
+}  // namespace
 
 void Recalculate(State& s) {
   Project& p = s.project;
   ++s.recalcCount;
+  s.resultsValid = false;
+  Reached reached = Reached::Nothing;
   // The trap: any fault of a stage ends the run at the message below.
   try {
     p.calcError = 0;
     s.view.txtErrorVisible = false;
 
     ComputeSection(s);
+    reached = Reached::Section;
     ShowSectionValues(s);
+    reached = Reached::SectionShown;
     DrawSectionFigure(s);
+    reached = Reached::Figure;
     MemberAnalysis(s);
     if (p.calcError == -1) throw CalcFault("calcError");
     RunControls(s);
     if (p.calcError == -1) throw CalcFault("calcError");
+    CheckRatios(s);
     DrawCharts(s);
     if (p.chModal == 1) ModalAnalysis(s);
     ShowWebText(s);
     ShowControls(s);
     UpdateMainFormState(s);
+    s.resultsValid = true;
     return;
   } catch (const CalcFault&) {
   } catch (const std::exception&) {
     // Any other failure of a stage (a bad subscript of a standard container, a failed
     // conversion) counts as a run-time fault too.
   }
+  VoidResults(s, reached);
   s.view.txtError = kCalcErrorText;
   s.view.txtErrorVisible = true;
 }

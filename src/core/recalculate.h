@@ -8,6 +8,11 @@ struct State;
 inline constexpr const char* kCalcErrorText =
     " Calculation Error. Axial load too big. Increase profile or reduce axial force ";
 
+// Why nothing is printed or exported after a failed run.
+inline constexpr const char* kNoResultsText =
+    "The last calculation ended in an error: there are no results to print or export. "
+    "Correct the input first.";
+
 // Rebuilds all results from the project record, in a fixed order. A failed numeric step at any
 // depth, or a set calcError, ends the run in the one message; nothing is rolled back.
 void Recalculate(State& s);

@@ -41,6 +41,10 @@ struct State {
   std::function<bool(const State&, const std::string& path, std::string* error)> spreadsheet;
   bool decimalComma = false;  // the user's locale writes 1,1 for 1.1
   int recalcCount = 0;        // runs of Recalculate, for tests and the command line
+  // The last run reached its end: the summary, the ratios, the charts and the tables belong to the
+  // inputs as they stand. False after a failed run: nothing may be shown, printed or exported.
+  bool resultsValid = false;
+  int fireDepth = 0;  // events in progress: a handler may fire others (a list set in code)
 };
 
 }  // namespace vn

@@ -47,6 +47,9 @@ void BuildLoadFactorTexts(State& s);
 void RebuildCombinationList(State& s);
 // The class frames of the Setup dialog: which is shown, its caption, the option selected.
 void SetClassFrames(State& s);
+// Which inputs of the Setup dialog and the strength field can be used now, from the record: the
+// user-defined code's factors, a typed strength on the user row, the load factors of ULS/SLS.
+void ShowSetupAvailability(State& s);
 // A choice in a psi list (list 1 Cbo_Q1_Psi1, list 2 Cbo_Q2_Psi2), in the Setup or Loading dialog.
 void OnPsiChoice(State& s, int list, int index);
 

@@ -45,6 +45,22 @@ int ViewValue(const State& s, const std::string& key) {
   return it == s.view.value.end() ? -1 : it->second;
 }
 
+}  // namespace
+
+void ShowSetupAvailability(State& s) {
+  const Project& p = s.project;
+  View& v = s.view;
+  for (const char* field : kUserFields) v.enabled[field] = p.codeIndex == kCodeUserDefined;
+  // A typed strength only on the user row (or without a grade table); every other row gives its own.
+  const bool userRow = !(p.steelGrade < s.steel.gradeLast);
+  v.enabled["ifyk"] = userRow;
+  v.enabled["setup.ifyk"] = userRow;
+  v.visible["setup.frULS"] = p.LoadCombMode == 4;
+  v.visible["setup.frPsi"] = !(p.LoadCombMode == 4 || p.LoadCombMode == 5);
+}
+
+namespace {
+
 void OnCodeChoice(State& s, int index) {
   Project& p = s.project;
   p.codeIndex = static_cast<Integer>(index);

@@ -28,6 +28,7 @@
 #include <functional>
 #include <tuple>
 
+#include "core/recalculate.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
 #include "forms/painter_canvas.h"
@@ -713,6 +714,13 @@ void MainForm::onMenu(const std::string& control) {
   if (control == "mnuhelpcont" || control == "mnuhelpsearch") {
     // The help page has no search of its own: both entries open it.
     OpenDocument(this, HelpPagePath(session_), QStringLiteral("Help not found: "));
+    return;
+  }
+  const bool print =
+      control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" || control == "mnuprint11";
+  if (print && !s.resultsValid) {
+    // No report of an earlier run under the inputs that failed.
+    QMessageBox::warning(this, "Varnelt - EC3", QString::fromUtf8(kNoResultsText));
     return;
   }
   if (control == "mnuprint0" || control == "mnuprint00") {

@@ -408,6 +408,7 @@ void DrawEndForceResultChart(draw::Canvas& c, const State& s, ChartAxis axis) {
 std::optional<std::string> ChartReadout(const State& s, std::string_view picture, double x) {
   const bool my = picture == "PicMy", mz = picture == "PicMz";
   if (!my && !mz) return std::nullopt;
+  if (!s.resultsValid) return std::nullopt;  // no values of an earlier run under a failed one
   if (!(x >= kChartLeft && x < kChartRight)) return std::nullopt;
   const double t = (x - kChartLeft) / (kChartRight - kChartLeft);
   const int i = std::clamp(static_cast<int>(RoundHalfEven(t * 50)), 0, 50);

@@ -2,9 +2,12 @@
 // It formats and places, it computes nothing.
 #include "results/detail_table.h"
 
+#include <cmath>
+#include <string>
 #include <utility>
 
 #include "core/format.h"
+#include "core/recalculate.h"
 #include "core/state.h"
 
 namespace vn {
@@ -30,7 +33,7 @@ struct Writer {
              const char* reference = "") {
     DetailRow& r = t.rows[static_cast<size_t>(row)];
     r[0] = name;
-    r[1] = FormatNumber(v, format, comma);
+    r[1] = std::isnan(v) ? std::string() : FormatNumber(v, format, comma);  // not computed: blank
     r[2] = unit;
     r[3] = reference;
     ++row;
@@ -43,6 +46,11 @@ DetailTable MakeDetailTable(const State& s) {
   DetailTable t;
   t.rows.assign(kDetailRows, DetailRow{});
   t.rows[0] = {" Parameter", "Value", "unit", " Reference"};
+  // After a failed run the table holds the message, not the values of an earlier run.
+  if (!s.resultsValid) {
+    t.rows[1][0] = kCalcErrorText;
+    return t;
+  }
 
   const Checks& c = s.checks;
   const MomentShape& shape = s.analysis.ShapeY;
@@ -58,7 +66,8 @@ DetailTable MakeDetailTable(const State& s) {
   // Mcr and Mcr0 are kept in Nmm and shown in kNm.
   w.Head(" Lateral Buckling Factors");
   w.Value(" Mcr", c.Mcr / 1000000.0, "0.000", " kNm");
-  w.Value(" C1", c.C1, "0.000", "", " (Mcr)");
+  // C1 belongs to Mcr: without a lateral torsional run it is blank like Mcr.
+  w.Value(" C1", std::isnan(c.Mcr) ? c.Mcr : c.C1, "0.000", "", " (Mcr)");
   w.Value(" lamdaLt", c.lamdaLT, "#0.000", "", " Ch 6.3.2");
   w.Value(" Mcr0", c.Mcr0 / 1000000.0, "#0.000", " kNm");
   w.Value(" lamda0", c.lamda0, "#0.000");

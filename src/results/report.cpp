@@ -3,6 +3,8 @@
 // and lateral buckling parameters and the summary of controls.
 #include "results/report.h"
 
+#include <cmath>
+
 #include <algorithm>
 #include <cctype>
 #include <sstream>
@@ -23,7 +25,10 @@ struct Page {
   const State& s;
   std::vector<ReportLine>& out;
 
-  std::string F(double v, const char* format) const { return FormatNumber(v, format, s.decimalComma); }
+  // A value the run did not compute (NaN) is left blank.
+  std::string F(double v, const char* format) const {
+    return std::isnan(v) ? std::string() : FormatNumber(v, format, s.decimalComma);
+  }
   void Heading(const std::string& text) { out.push_back({Kind::Heading, text, "", "", "", 0}); }
   void Row(const std::string& label, const std::string& value, const std::string& unit = "",
            const std::string& extra = "") {

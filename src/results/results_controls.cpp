@@ -5,6 +5,7 @@
 #include "analysis/member_analysis.h"
 #include "core/control_registry.h"
 #include "core/events.h"
+#include "core/recalculate.h"
 #include "core/state.h"
 #include "results/detail_table.h"
 
@@ -17,8 +18,13 @@ const char* const kDetailForm = "detailedresult";
 // "Export": the grid as it stands, cell by cell, to the spreadsheet of the front end; the text of
 // the event is the target. Any failure ends in the one message.
 EventResult ExportDetailGrid(State& s, std::string_view path) {
-  if (s.view.detailGrid.empty()) BuildDetailTable(s);
   EventResult r;
+  if (!s.resultsValid) {
+    r.refused = true;
+    r.message = kNoResultsText;
+    return r;
+  }
+  if (s.view.detailGrid.empty()) BuildDetailTable(s);
   std::string error;
   if (!s.spreadsheet || path.empty() || !s.spreadsheet(s, std::string(path), &error)) {
     r.refused = true;

@@ -204,6 +204,7 @@ TEST(AnalysisDialogs, TheMainFormsButtonsOpenTheirDialogs) {
 
 TEST(AnalysisDialogs, AClickOnAChartOpensTheLoadsOfTheModeInForce) {
   State s = NewState();
+  s.view.visible["PicMy"] = true;  // a chart takes a click where it is shown
   Fire(s, "PicMy");
   EXPECT_TRUE(DialogOpen(s.view, "Loading"));
   EXPECT_FALSE(DialogOpen(s.view, "endforce"));

@@ -150,14 +150,12 @@ State HebEndForces(const char* method, const char* N, const char* my1, const cha
 
 TEST(MethodOne, AnAxialForceAboveTheCriticalLoadEndsTheRunInTheMessage) {
   State s = BeamColumn(1);
-  const auto before = s.view.summary;
   Do(s, "Loading.inn(1)", "2600");  // Ncr,z = 2594.66 kN
   EXPECT_EQ(s.project.calcError, -1);
   EXPECT_TRUE(s.view.txtErrorVisible);
   EXPECT_EQ(s.view.txtError,
             " Calculation Error. Axial load too big. Increase profile or reduce axial force ");
-  ASSERT_EQ(s.view.summary.size(), before.size());
-  for (size_t i = 0; i < before.size(); ++i) EXPECT_EQ(s.view.summary[i].ratio, before[i].ratio);
+  EXPECT_TRUE(s.view.summary.empty());
   // Method 2 has no guard: the ratios just grow, red.
   Do(s, "setup.rbtnMethod2");
   EXPECT_EQ(s.project.calcError, 0);

@@ -327,6 +327,7 @@ TEST(CFactorsInForce, ManualFactorsWithTheAlternativeC1) {
 
 TEST(LtbDialog, FieldsRefuseValuesOutsideTheirLimitsWithTheirOwnText) {
   State s = test::Ipe300("6", "0", "15");
+  Do(s, "vipping.Cfactor", "1");  // the fields take input only with the user's factors
   EventResult r = Fire(s, "vipping.ic1", "0.1");
   EXPECT_TRUE(r.refused);
   EXPECT_EQ(r.message, " 0.2 <= C1i <= 4 ");

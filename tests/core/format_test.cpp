@@ -232,12 +232,18 @@ TEST(ParseNumber, PointLocaleReadsTheNumericPrefix) {
   EXPECT_EQ(Parse("0.1", false).value, 0.1f);
 }
 
-TEST(ParseNumber, PointLocaleSkipsBlanksInsideTheNumber) {
-  EXPECT_EQ(Parse("1 2", false).value, 12.0f);
-  EXPECT_EQ(Parse(" 1 2 3", false).value, 123.0f);
-  EXPECT_EQ(Parse("- 5", false).value, -5.0f);
-  EXPECT_EQ(Parse("1\t5", false).value, 15.0f);
-  EXPECT_EQ(Parse("2 . 5", false).value, 2.5f);
+// A blank inside ends the number: "1 000" typed for a thousand must not be read as a thousand
+// in one place and as 1 in another, so it is 1 here and the range test or the field shows it.
+TEST(ParseNumber, PointLocaleStopsAtABlankInsideTheNumber) {
+  EXPECT_EQ(Parse("2 3", false).value, 2.0f);
+  EXPECT_EQ(Parse("1 000", false).value, 1.0f);
+  EXPECT_EQ(Parse(" 1 2 3", false).value, 1.0f);
+  EXPECT_EQ(Parse("- 5", false).value, 0.0f);
+  EXPECT_EQ(Parse("1\t5", false).value, 1.0f);
+  EXPECT_EQ(Parse("2 . 5", false).value, 2.0f);
+  EXPECT_EQ(Parse("2. 5", false).value, 2.0f);
+  EXPECT_EQ(Parse("1e 3", false).value, 1.0f);
+  EXPECT_FALSE(Parse("2 3", false).mismatch);
 }
 
 TEST(ParseNumber, CommaLocaleWantsTheWholeText) {

@@ -143,6 +143,7 @@ TEST(FieldProtocol, LettersAreZeroInThePointLocaleAndAMismatchInTheCommaLocale) 
 
 TEST(FieldProtocol, BoundsAreInclusiveWhateverTheMessageSays) {
   State s = NewState();
+  Fire(s, "cbutt3");  // the spring field is shown for spring supports only
   EXPECT_FALSE(Fire(s, "ispring", "0").refused);
   EXPECT_FALSE(Fire(s, "ispring", "100").refused);
   EventResult r = Fire(s, "ispring", "101");
@@ -167,6 +168,7 @@ TEST(FieldProtocol, IntegerFieldsRoundHalvesToEven) {
 
 TEST(FieldProtocol, AnIntegerOverflowIsSilentAndKeepsTheOldValue) {
   State s = NewState();
+  Fire(s, "cbutt3");
   int runs = s.recalcCount;
   EventResult r = Fire(s, "ispring", "40000");
   EXPECT_FALSE(r.refused);
@@ -186,23 +188,39 @@ TEST(FieldProtocol, TextFieldsStoreWithoutTestOrRecalculation) {
 
 // ---- Options and check boxes of the main form ----
 
-TEST(SupportButtons, BucklingCasesBelowFiveFallBackAndTypedOrIrrelevantStay) {
+// Each support type sets both axes' case and factor: simple, spring and pinned-spring ends 1.0,
+// pinned-fixed 0.7, fixed-fixed 0.5, the cantilever 2.0; a typed factor and case 5 stay.
+TEST(SupportButtons, SetTheBucklingCaseOfTheEndsAndKeepTypedOrIrrelevantOnes) {
+  struct Row {
+    const char* button;
+    Integer bucklingCase;
+    Single factor;
+    const char* text;
+    int picture;
+  };
+  const Row rows[] = {{"cbutt4", 1, 2.0f, "2.00", 1}, {"cbutt0", 2, 1.0f, "1.00", 2},
+                      {"cbutt1", 3, 0.7f, "0.70", 3}, {"cbutt2", 4, 0.5f, "0.50", 4},
+                      {"cbutt3", 2, 1.0f, "1.00", 2}, {"cbutt4", 1, 2.0f, "2.00", 1},
+                      {"cbutt5", 2, 1.0f, "1.00", 2}};
   State s = NewState();
-  s.project.bucklingCaseY = 6;
-  s.project.bucklingFactorY = 0.85f;
-  s.project.bucklingCaseZ = 3;
-  s.project.bucklingFactorZ = 0.7f;
-  Fire(s, "cbutt1");
-  EXPECT_EQ(s.project.SupportType, 1);
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.button);
+    Fire(s, row.button);
+    EXPECT_EQ(s.project.bucklingCaseY, row.bucklingCase);
+    EXPECT_EQ(s.project.bucklingFactorY, row.factor);
+    EXPECT_EQ(s.project.bucklingCaseZ, row.bucklingCase);
+    EXPECT_EQ(s.project.bucklingFactorZ, row.factor);
+    EXPECT_EQ(s.view.text["iblz"], row.text);
+    EXPECT_EQ(s.view.value["cbuttbucklingz"], row.picture);
+  }
+  Fire(s, "ibly", "0.85");
+  Fire(s, "bucklingz.bucklingz5");
+  Fire(s, "cbutt4");
   EXPECT_EQ(s.project.bucklingCaseY, 6);
   EXPECT_EQ(s.project.bucklingFactorY, 0.85f);
-  EXPECT_EQ(s.project.bucklingCaseZ, 2);
-  EXPECT_EQ(s.project.bucklingFactorZ, 1.0f);
-  s.project.bucklingCaseY = 5;
-  s.project.bucklingFactorY = 0.001f;
-  Fire(s, "cbutt2");
-  EXPECT_EQ(s.project.bucklingCaseY, 5);
-  EXPECT_EQ(s.project.bucklingFactorY, 0.001f);
+  EXPECT_EQ(s.view.text["ibly"], "0.85");
+  EXPECT_EQ(s.project.bucklingCaseZ, 5);
+  EXPECT_EQ(s.project.bucklingFactorZ, 0.001f);
 }
 
 TEST(SupportButtons, SpringTypesShowTheSpringFieldAndTakeTheFocus) {
@@ -249,14 +267,18 @@ TEST(ModalCheck, IsRefusedForSpringSupportsAndDoesNotRecalculate) {
 TEST(RefreshMainForm, FiresTheSupportEventWhenAnotherButtonBecomesTheSetOne) {
   State s = NewState();
   RefreshMainForm(s);
-  // A project read from a file: other support, buckling cases below 5.
+  // A project read from a file: fixed ends, buckling cases below 5 as the file had them.
   s.project.SupportType = 2;
   s.project.bucklingCaseY = 3;
   s.project.bucklingFactorY = 0.7f;
+  s.project.bucklingCaseZ = 6;
+  s.project.bucklingFactorZ = 0.85f;
   RefreshMainForm(s);
-  EXPECT_EQ(s.project.bucklingCaseY, 2);
-  EXPECT_EQ(s.project.bucklingFactorY, 1.0f);
-  EXPECT_EQ(s.view.text["ibly"], "1.00");
+  EXPECT_EQ(s.project.bucklingCaseY, 4);
+  EXPECT_EQ(s.project.bucklingFactorY, 0.5f);
+  EXPECT_EQ(s.view.text["ibly"], "0.50");
+  EXPECT_EQ(s.project.bucklingCaseZ, 6);
+  EXPECT_EQ(s.view.text["iblz"], "0.85");
   // The same support again: nothing fires, the case read stays.
   s.project.bucklingCaseY = 3;
   s.project.bucklingFactorY = 0.7f;

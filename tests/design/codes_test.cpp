@@ -181,7 +181,8 @@ TEST(CodeChoice, NorsokForcesUlsSlsAgainWhenTheSteelChanges) {
   EXPECT_EQ(s.project.fyk, 355.0f);
   EXPECT_EQ(s.project.LoadCombMode, 4);
   EXPECT_DOUBLE_EQ(s.project.gammaM0, 1.15);
-  // The same after a typed strength.
+  // The same after a typed strength (the last row of the grade table).
+  Fire(s, "cbofyk", std::to_string(s.steel.gradeLast));
   Fire(s, "setup.CboLoadComb", "1");
   Fire(s, "ifyk", "420");
   EXPECT_EQ(s.project.LoadCombMode, 4);

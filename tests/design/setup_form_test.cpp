@@ -15,10 +15,13 @@ namespace {
 
 using vn::test::TempFolder;
 
+// The user-defined code, load factors of ULS/SLS in force (their frame shown), no grade table (the
+// strength is typed).
 State UserDefinedState() {
   State s;
   s.project.fyk = 355;
   Fire(s, "setup.Cbo1993", "8");
+  Fire(s, "setup.CboLoadComb", "4");
   return s;
 }
 
@@ -127,6 +130,7 @@ TEST(SetupFields, LoadFactorsRebuildTheirText) {
 
 TEST(SetupFields, UlsQ2RecalculatesOnceMoreEvenAfterARefusal) {
   State s;
+  Fire(s, "setup.CboLoadComb", "4");
   int before = s.recalcCount;
   Fire(s, "setup.iLfULS_Q2", "1.5");
   EXPECT_EQ(s.recalcCount - before, 2);  // the field's run and the extra one

@@ -174,7 +174,7 @@ TEST(MainFormState, AFamilyWithoutWebStiffenersClearsThemAtTheEndOfTheRun) {
 
 TEST(MainFormState, SpringSupportsEndTheModalAnalysis) {
   State s = test::StartedState();
-  s.project.chModal = 1;
+  Fire(s, "ch_modal", "1");
   Fire(s, "cmd_modresult");
   ASSERT_TRUE(DialogOpen(s.view, "Modal_ns"));
   s.project.SupportType = 3;

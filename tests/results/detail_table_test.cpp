@@ -147,6 +147,7 @@ TEST(DetailTableValues, McrIsShownInKnmWithThreeDecimals) {
 
 TEST(DetailTableValues, SmallValuesKeepTheLeadingZeroAndRoundHalfAway) {
   State s = NewState(2);
+  s.checks.Mcr = 1e6;       // a lateral torsional run: C1 is shown with it
   s.checks.C1 = 1.1325;     // "0.000": 1.1325 -> 1.133 (half away from zero on the decimal text)
   s.checks.lamdaLT = 0.25;  // "#0.000": 0.250 with its zero before the point
   s.checks.kzy = -0.0004;   // rounds to zero: no minus sign
@@ -191,6 +192,7 @@ TEST(DetailTableValues, EveryRowShowsItsOwnField) {
                       28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46};
   static_assert(std::size(fields) == std::size(rows));
   for (size_t i = 0; i < std::size(fields); ++i) *fields[i] = static_cast<double>(i) + 1.5;
+  c.Mcr = 1e6;
   DetailTable t = MakeDetailTable(s);
   for (size_t i = 0; i < std::size(rows); ++i)
     EXPECT_EQ(t.rows[rows[i]][1], std::to_string(i + 1) + ".500") << t.rows[rows[i]][0];

@@ -192,9 +192,8 @@ TEST(ShowControls, DeflectionBlockOnlyWithTheServiceabilityCheck) {
   EXPECT_EQ(lines.back(), "IR = dy/dyMax = -20.0/16.7 =   1.20 [NOT OK] < 1.0");
 }
 
-TEST(SummaryText, AFailedRunShowsTheMessageAboveTheLastSummary) {
+TEST(SummaryText, AFailedRunShowsTheMessageAlone) {
   State s = StartedState();
-  const std::string before = SummaryText(s);
   s.section = Section{};  // nothing to compute with: the run faults in the section stage
   s.project.ProfileType = 1;
   s.project.SelectedRow[0] = 999;
@@ -203,7 +202,7 @@ TEST(SummaryText, AFailedRunShowsTheMessageAboveTheLastSummary) {
   const std::string after = SummaryText(s);
   EXPECT_EQ(
       after.rfind(" Calculation Error. Axial load too big. Increase profile or reduce axial force\n", 0), 0u);
-  EXPECT_NE(after.find(before), std::string::npos);
+  EXPECT_EQ(after, " Calculation Error. Axial load too big. Increase profile or reduce axial force\n");
 }
 
 }  // namespace
