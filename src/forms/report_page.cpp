@@ -9,6 +9,7 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <algorithm>
+#include <utility>
 
 #include "core/state.h"
 #include "forms/painter_canvas.h"
@@ -55,65 +56,90 @@ void PaintReport(QPainter& p, const QRectF& page, const State& s, const Report& 
   p.drawLine(QPointF(left, y - line * 0.6), QPointF(right, y - line * 0.6));
   y += line;
 
-  // The blocks; the controls take the whole width, their ratios in a column of their own.
+  // The blocks; the controls take the whole width, their ratios in a column of their own. The page
+  // is one page, and nothing may be left off it (a control line least of all): when the blocks are
+  // longer than the room above the figures, the lines and their font shrink until they fit.
   const double valueX = left + 330 * u, unitX = left + 450 * u, extraX = left + 560 * u;
   const double ratioX = left + 610 * u, limitX = left + 675 * u;
   const double bottom = r.figures ? page.top() + page.height() * 0.74 : page.bottom() - 40 * u;
-  for (const ReportLine& l : r.lines) {
-    if (y > bottom) break;  // one page: what does not fit is left out
-    switch (l.kind) {
-      case ReportLine::Kind::Blank: y += line * 0.5; continue;
-      case ReportLine::Kind::Heading: text(left, y, l.label, bold); break;
-      case ReportLine::Kind::Text: text(left + 10 * u, y, l.label, font); break;
-      case ReportLine::Kind::Row: {
-        text(left + 10 * u, y, l.label, font);
-        // A long label pushes its value along.
-        const double labelEnd =
-            left + 10 * u + QFontMetricsF(font).horizontalAdvance(QString::fromStdString(l.label));
-        const double shift = std::max(0.0, labelEnd + 8 * u - valueX);
-        text(valueX + shift, y, l.value, font);
-        text(unitX + shift, y, QString::fromStdString(l.unit).trimmed().toStdString(), font);
-        text(extraX + shift, y, l.extra, font);
-        break;
-      }
-      case ReportLine::Kind::Control: {
-        // A long formula wraps onto a second line at the left.
-        QFontMetricsF m(font);
-        QString t = QString::fromStdString(l.label);
-        const double room = ratioX - left - 20 * u;
-        QString rest;
-        while (m.horizontalAdvance(t) > room && t.size() > 1) {
-          const int cut = t.lastIndexOf(QRegularExpression("[+ ]"), t.size() - 2);
-          if (cut <= 0) break;
-          rest = t.mid(cut) + rest;
-          t = t.left(cut);
+  const double top = y;
+  // Lays the blocks out from `top` with lines `fit` times their size; draws them if `draw`, and
+  // returns where the next line would stand.
+  auto blocks = [&](double fit, bool draw) {
+    QFont small = font, smallBold = bold;
+    small.setPixelSize(std::max(1, qRound(13 * u * fit)));
+    smallBold.setPixelSize(std::max(1, qRound(13 * u * fit)));
+    const double step = line * fit;
+    const QFontMetricsF m(small);
+    auto put = [&](double x, double at, const std::string& t, const QFont& f, const QColor& c = Qt::black) {
+      if (draw) text(x, at, t, f, c);
+    };
+    double at = top;
+    for (const ReportLine& l : r.lines) {
+      switch (l.kind) {
+        case ReportLine::Kind::Blank: at += step * 0.5; continue;
+        case ReportLine::Kind::Heading: put(left, at, l.label, smallBold); break;
+        case ReportLine::Kind::Text: put(left + 10 * u, at, l.label, small); break;
+        case ReportLine::Kind::Row: {
+          put(left + 10 * u, at, l.label, small);
+          // A long label pushes its value along.
+          const double labelEnd = left + 10 * u + m.horizontalAdvance(QString::fromStdString(l.label));
+          const double shift = std::max(0.0, labelEnd + 8 * u - valueX);
+          put(valueX + shift, at, l.value, small);
+          put(unitX + shift, at, QString::fromStdString(l.unit).trimmed().toStdString(), small);
+          put(extraX + shift, at, l.extra, small);
+          break;
         }
-        text(left + 10 * u, y, t.toStdString(), font);
-        const QColor colour = l.colour == 4   ? QColor(255, 0, 0)
-                              : l.colour == 2 ? QColor(0, 128, 0)
-                                              : Qt::black;
-        // The ratio ends just before the limit, whatever stands before it.
-        const double ratioWidth = QFontMetricsF(bold).horizontalAdvance(QString::fromStdString(l.value));
-        text(limitX - 8 * u - ratioWidth, y, l.value, bold, colour);
-        text(limitX, y, l.unit, font);
-        if (!rest.isEmpty()) {
-          y += line;
-          text(left + 30 * u, y, rest.trimmed().toStdString(), font);
+        case ReportLine::Kind::Control: {
+          // A long formula wraps onto a second line at the left.
+          QString t = QString::fromStdString(l.label);
+          const double room = ratioX - left - 20 * u;
+          QString rest;
+          while (m.horizontalAdvance(t) > room && t.size() > 1) {
+            const int cut = t.lastIndexOf(QRegularExpression("[+ ]"), t.size() - 2);
+            if (cut <= 0) break;
+            rest = t.mid(cut) + rest;
+            t = t.left(cut);
+          }
+          put(left + 10 * u, at, t.toStdString(), small);
+          const QColor colour = l.colour == 4   ? QColor(255, 0, 0)
+                                : l.colour == 2 ? QColor(0, 128, 0)
+                                                : Qt::black;
+          // The ratio ends just before the limit, whatever stands before it.
+          const double ratioWidth =
+              QFontMetricsF(smallBold).horizontalAdvance(QString::fromStdString(l.value));
+          put(limitX - 8 * u - ratioWidth, at, l.value, smallBold, colour);
+          put(limitX, at, l.unit, small);
+          if (!rest.isEmpty()) {
+            at += step;
+            put(left + 30 * u, at, rest.trimmed().toStdString(), small);
+          }
+          break;
         }
-        break;
       }
+      at += step;
     }
-    y += line;
+    return at;
+  };
+  double fit = 1;
+  for (int i = 0; i < 4; ++i) {  // a smaller font wraps less, so a step or two settles it
+    const double end = blocks(fit, false) - line * fit;  // the last line's baseline
+    if (end <= bottom) break;
+    fit *= (bottom - top) / (end - top);
   }
+  blocks(fit, true);
 
-  // The member and its moment charts at the foot of the stability report.
+  // The member and its moment charts at the foot of the stability report, each in the proportions
+  // of its box on the main form, so that the member keeps its shape and the charts their scale.
   if (r.figures) {
-    const double top = page.top() + page.height() * 0.76, h = page.height() * 0.2;
+    const double figureTop = page.top() + page.height() * 0.76, h = page.height() * 0.2;
     const double w = (right - left) / 3;
     int i = 0;
-    for (const char* name : {"pic11", "PicMy", "PicMz"}) {
+    for (const auto& [name, aspect] :
+         {std::pair{"pic11", 5.7}, std::pair{"PicMy", 1.27}, std::pair{"PicMz", 1.27}}) {
       auto it = s.view.pictures.find(name);
-      const QRectF box(left + i++ * w, top, w - 10 * u, h);
+      const double width = w - 10 * u, height = std::min(h, width / aspect);
+      const QRectF box(left + i++ * w, figureTop + (h - height) / 2, width, height);
       if (it == s.view.pictures.end() || it->second.commands.empty()) continue;
       p.save();
       p.setClipRect(box);

@@ -154,6 +154,53 @@ void ClassNotes(Page& pg, bool stability) {
     pg.Text("Section class upgraded according to EN 1993-1-1, ch 6.2.2.4");
 }
 
+// The capacity. A family with two flanges (or a plate and its stiffener) gives the class and moment
+// resistance for each of them in compression, under its own heading; the shear and axial
+// resistances, which hold for either, then stand under headings of their own, so that none of
+// them reads as a value of the flange above it.
+void CapacityBlocks(Page& pg, const std::vector<View::Line>& lines) {
+  if (lines.empty()) return;
+  static const std::pair<const char*, const char*> kSides[] = {
+      {"Top flange in compression", "Topflange in compression:"},
+      {"Bottom flange in compression", "Bottom flange in compression:"},
+      {"Plate in compression", "Plate in compression:"},
+      {"Stiffener in compression", "Stiffener in compression:"}};
+  auto sideHeading = [](const View::Line& l) -> const char* {
+    if (!l.value.empty() || !l.unit.empty()) return nullptr;
+    for (const auto& [dialog, report] : kSides)
+      if (l.label == dialog) return report;
+    return nullptr;
+  };
+  const bool sides =
+      std::any_of(lines.begin(), lines.end(), [&](const View::Line& l) { return sideHeading(l); });
+  pg.Heading("Capacity:");
+  if (!sides) {
+    for (const View::Line& l : lines) pg.Row(l.label, l.value, l.unit);
+    pg.Blank();
+    return;
+  }
+  auto starts = [](const std::string& label, const char* head) { return label.rfind(head, 0) == 0; };
+  std::vector<const View::Line*> shear, axial;
+  for (const View::Line& l : lines) {
+    if (const char* heading = sideHeading(l)) {
+      pg.Heading(heading);
+    } else if (starts(l.label, "Vc,")) {
+      shear.push_back(&l);
+    } else if (starts(l.label, "Nt,Rd") || starts(l.label, "Nc,Rd") || starts(l.label, "N,Rd")) {
+      axial.push_back(&l);
+    } else {
+      pg.Row(l.label, l.value, l.unit);
+    }
+  }
+  for (const auto& [heading, group] :
+       {std::pair{"Shear capacity:", &shear}, std::pair{"Axial capacity:", &axial}}) {
+    if (group->empty()) continue;
+    pg.Heading(heading);
+    for (const View::Line* l : *group) pg.Row(l->label, l->value, l->unit);
+  }
+  pg.Blank();
+}
+
 void SectionReport(const State& s, Report& r) {
   Page pg{s, r.lines};
   const Project& p = s.project;
@@ -172,10 +219,21 @@ void SectionReport(const State& s, Report& r) {
     for (const View::Line& l : lines) pg.Row(l.label, l.value, l.unit);
     pg.Blank();
   };
-  block(Between(p.ProfileType, 21, 56) && p.ProfileType != 22 ? "Dimensions:" : "Dimensions and weight:",
-        b.dimensions);
-  block("Section property:", b.properties);
-  block("Capacity:", b.capacity);
+  // A family whose dimensions are typed in its dialog shows only its weight here: the weight then
+  // heads the section properties.
+  const bool dimensions = std::any_of(b.dimensions.begin(), b.dimensions.end(), [](const View::Line& l) {
+    return l.label != "g =" && l.label != "S =";
+  });
+  if (!dimensions) {
+    std::vector<View::Line> both = b.dimensions;
+    both.insert(both.end(), b.properties.begin(), b.properties.end());
+    block("Weight and Section property:", both);
+  } else {
+    const bool catalogue = Between(p.ProfileType, 1, 16) || Between(p.ProfileType, 101, 103);
+    block(catalogue ? "Dimensions and weight:" : "Dimension and Weight:", b.dimensions);
+    block("Section property:", b.properties);
+  }
+  CapacityBlocks(pg, b.capacity);
 
   ClassNotes(pg, false);
   if ((p.ProfileType == 24 || p.ProfileType == 25) && p.hsqKind == 0) {
@@ -203,8 +261,13 @@ void Geometry(Page& pg) {
   pg.Row("L =", pg.F(p.L, "#0.000"), "m");
   pg.Row("Supports:", p.SupportType >= 0 && p.SupportType <= 5 ? kSupportTexts[p.SupportType] : "");
   if (p.SupportType == 3 || p.SupportType == 5) pg.Row("Spring restraint:", pg.F(p.SpringPct, "#0"), "%");
-  pg.Row("End post:", p.rigidEndPost != 0 ? "Rigid" : "Non-rigid");
-  if (p.webStiffeners == 1) pg.Row("Web stiffener: c/c ", pg.F(p.a, "##0"), "mm");
+  // The end post and the web stiffeners only where the family's shear control reads them, as the
+  // main form shows its support button.
+  auto support = pg.s.view.visible.find("cbuttsupport");
+  if (support != pg.s.view.visible.end() && support->second) {
+    pg.Row("End post:", p.rigidEndPost != 0 ? "Rigid" : "Non-rigid");
+    if (p.webStiffeners == 1) pg.Row("Web stiffener: c/c ", pg.F(p.a, "##0"), "mm");
+  }
   pg.Blank();
 }
 
@@ -256,33 +319,99 @@ void Loading(Page& pg) {
                                                                  : "Selfweight of member not included");
   pg.Row("Psi(Q1/Q2) = ", pg.F(p.psiQ1, "0.0#") + "/" + pg.F(p.psiQ2, "0.0#"));
   pg.Blank();
+
+  // The design forces of the governing combination that the loads give, with where they stand.
+  const Analysis& an = s.analysis;
+  pg.Heading("Loading/Moment: (kN/kNm/m)");
+  pg.Row("N = ", pg.F(an.NEd, "##0.0"), "kN");
+  auto extremes = [&](const char* label, double max, double maxAt, double min, double minAt,
+                      const char* unit) {
+    pg.Row(label, pg.F(max, "##0.0") + "/" + pg.F(min, "##0.0"), unit,
+           "x = " + pg.F(maxAt * p.L, "#0.000") + "/" + pg.F(minAt * p.L, "#0.000") + " m");
+  };
+  extremes("My,max/My,min = ", an.MyMax, an.MyMaxPos, an.MyMin, an.MyMinPos, "kNm");
+  extremes("Mz,max/Mz,min = ", an.MzMax, an.MzMaxPos, an.MzMin, an.MzMinPos, "kNm");
+  extremes("Vz,max/Vz,min = ", an.VzMax, an.VzMaxPos, an.VzMin, an.VzMinPos, "kN");
+  extremes("Vy,max/Vy,min = ", an.VyMax, an.VyMaxPos, an.VyMin, an.VyMinPos, "kN");
+  pg.Blank();
+}
+
+bool In(int type, std::initializer_list<int> types) {
+  return std::find(types.begin(), types.end(), type) != types.end();
+}
+
+// The families whose buckling control reads the column data: all but the girders loaded in their
+// web plane, which have no buckling control of a strut.
+bool StrutFamily(int type) { return !In(type, {24, 25, 27}) && !Between(type, 51, 56); }
+
+// Whether the last run made the lateral torsional control: the families that have it, with the
+// control switched on, and the flat bar only in compression, when its buckling control runs.
+bool LateralControlRan(const State& s) {
+  const int t = s.project.ProfileType;
+  if (s.project.ltbOn != 1) return false;
+  if (t == 28) return s.analysis.NEd > 0;
+  return Between(t, 1, 5) || t == 15 || t == 16 || t == 21 || t == 22 || t == 41 || Between(t, 101, 103) ||
+         Between(t, 51, 54) || t == 56;
+}
+
+void LateralParameters(Page& pg) {
+  const State& s = pg.s;
+  const Project& p = s.project;
+  const Checks& k = s.checks;
+  const int t = p.ProfileType;
+  // A loaded member with no restraint between its ends takes its C factors from the load shape, C2
+  // with the load height among them; otherwise each part between restraints takes C1 (and C3) from
+  // the ratio of its end moments, and C2 does not enter. C3 enters only with the single symmetric I.
+  const bool loadShape = p.AnalysisMode == 1 && p.ltbRestraints == 0;
+  const bool plate = Between(t, 51, 56);  // the plates' critical moment has no C factor
+  pg.Heading("Lateral buckling parameters:");
+  pg.Row("Lateral torsional buckling length factor, k = ", pg.F(p.ltbFactor, "#0.00"));
+  pg.Row("Number of lateral restraint of compression flange: ", pg.F(p.ltbRestraints, "#0"));
+  const std::string part =
+      p.ltbPart >= 0 && p.ltbPart <= 6 ? k.ltbPartLabel[static_cast<size_t>(p.ltbPart)] : std::string();
+  pg.Row("Mb,Rd = ", pg.F(k.xLT * k.MyRdLT, "#0.0"),
+         p.ltbRestraints > 0 ? " kNm  (" + part + " :Lateral torsional control)"
+                             : std::string(" kNm  (lateral torsional buckling)"));
+  if (!plate) {
+    const std::string c1 = pg.F(k.C1, "#0.00"), c2 = pg.F(k.C2, "#0.00"), c3 = pg.F(k.C3, "#0.00");
+    if (loadShape)
+      pg.Row(t == 22 ? "   C1/C2/C3 = " : "   C1/C2 = ", c1 + "/" + c2 + (t == 22 ? "/" + c3 : ""));
+    else
+      pg.Row(t == 22 ? "   C1/C3 = " : "   C1 = ", c1 + (t == 22 ? "/" + c3 : ""));
+    // A typed load height; the general section has no flange to load, and acts at its centre.
+    if (loadShape && p.ltbLoadLevel == 4 && t != 41)
+      pg.Row("   Za = ", pg.F(p.ltbZa, "#0"), " mm  (from CoG)");
+  }
+  pg.Text(p.ltbCurve == 2 ? "Lateral torsional buckling curves: General Case (conservative, ch 6.3.2.2)"
+                          : "Lateral torsional buckling curves: Rolled or welded I-sections (ch 6.3.2.3)");
+  // The closed formula for C1 replaces the tables only for the load shape, and only under a moment.
+  if (p.ltbUserC1 != 0 && loadShape && !plate && s.analysis.MyAbs != 0) pg.Text("Advanced calculation of C1");
+  pg.Blank();
 }
 
 void BucklingParameters(Page& pg) {
   const State& s = pg.s;
   const Project& p = s.project;
   const Checks& k = s.checks;
-  const bool angle = p.ProfileType == 10 || p.ProfileType == 11;
-  pg.Heading("Buckling parameters:");
-  pg.Row("", "Y-axis", "Z-axis", angle ? "U-axis     V-axis" : "");
-  pg.Row("Buckling length factor", pg.F(p.bucklingFactorY, "##0.00"), pg.F(p.bucklingFactorZ, "##0.00"));
-  pg.Row("Buckling Curve", k.curveTextY, k.curveTextZ);
-  pg.Row("Slenderness", "lamda =" + pg.F(k.lamday, "##0.00"), "lamda =" + pg.F(k.lamdaz, "##0.00"),
-         angle ? "lamda =" + pg.F(k.lamdau, "##0.00") + "  lamda =" + pg.F(k.lamdav, "##0.00") : "");
-  pg.Blank();
-  if (p.ltbOn == 1) {
-    pg.Heading("Lateral buckling parameters:");
-    pg.Row("Lateral torsional buckling length factor, k = ", pg.F(p.ltbFactor, "#0.00"));
-    pg.Row("Number of lateral restraint of compression flange: ", pg.F(p.ltbRestraints, "#0"));
-    pg.Row("Mb,Rd = ", pg.F(k.xLT * k.MyRdLT, "#0.0"), " kNm  (lateral torsional buckling)");
-    pg.Row("   C1/C2/C3 = ", pg.F(k.C1, "#0.00") + "/" + pg.F(k.C2, "#0.00") + "/" + pg.F(k.C3, "#0.00"));
-    pg.Text(p.ltbCurve == 2 ? "Lateral torsional buckling curves: Rolled or welded I-sections (ch 6.3.2.3)"
-                            : "Lateral torsional buckling curves: General Case (conservative, ch 6.3.2.2)");
-    if (p.ltbUserC1 != 0) pg.Text("Advanced calculation of C1");
+  const int t = p.ProfileType;
+  // The buckling lengths are column data: they are read only under compression.
+  if (s.analysis.NEd > 0 && StrutFamily(t)) {
+    const bool angle = t == 10 || t == 11;
+    pg.Heading("Buckling parameters:");
+    pg.Row("", "Y-axis", "Z-axis", angle ? "U-axis     V-axis" : "");
+    pg.Row("Buckling length factor", pg.F(p.bucklingFactorY, "##0.00"), pg.F(p.bucklingFactorZ, "##0.00"));
+    pg.Row("Buckling Curve", k.curveTextY, k.curveTextZ);
+    pg.Row("Slenderness", "lamda =" + pg.F(k.lamday, "##0.00"), "lamda =" + pg.F(k.lamdaz, "##0.00"),
+           angle ? "lamda =" + pg.F(k.lamdau, "##0.00") + "  lamda =" + pg.F(k.lamdav, "##0.00") : "");
     pg.Blank();
   }
-  pg.Row("Interaction factors kij: ", p.interactionMethod == 1 ? "Method 1" : "Method 2");
-  pg.Blank();
+  if (LateralControlRan(s)) LateralParameters(pg);
+  // The interaction factors join compression and bending; the T section has no such control.
+  const bool bending = s.analysis.MyAbs != 0 || s.analysis.MzGov != 0;
+  if (s.analysis.NEd > 0 && bending && StrutFamily(t) && t != 26) {
+    pg.Row("Interaction factors kij: ", p.interactionMethod == 1 ? "Method 1" : "Method 2");
+    pg.Blank();
+  }
 }
 
 void Controls(Page& pg) {
@@ -303,8 +432,10 @@ void StabilityReport(const State& s, Report& r) {
   static const char* const kClassNames[] = {
       "", "Reliability Class: ", "Safety Class: ", "Consequences Class: ", "", "Reliability Class: "};
   if (p.LoadCombMode < 4 && p.codeIndex >= 1 && p.codeIndex <= 5 && kClassNames[p.codeIndex][0] != '\0')
-    pg.Row(kClassNames[p.codeIndex],
-           p.codeIndex == 1 ? (p.safetyClass == 1 ? "1" : "2-4") : pg.F(p.safetyClass, "#0"));
+    pg.Row(kClassNames[p.codeIndex], p.codeIndex == 1 ? (p.safetyClass == 1 ? "1" : "2-4")
+                                     : p.safetyClass == 1 || p.safetyClass == 2
+                                         ? pg.F(p.safetyClass, "#0")
+                                         : std::string("3"));  // as the dialog's option 3
   ClassNotes(pg, true);
   pg.Blank();
   pg.Row("Profile:", ProfileText(s, ReportKind::Stability));
@@ -319,8 +450,8 @@ void StabilityReport(const State& s, Report& r) {
     for (size_t i = 1; i <= 3; ++i)
       if (s.analysis.ModalFreq[i] > 0)
         pg.Row("f" + std::to_string(i) + " = ", pg.F(s.analysis.ModalFreq[i], "#0.00"), "Hz");
-    pg.Row("Mass m = ", pg.F(s.section.g + s.analysis.qTotal * 1000 / 9.81, "#0.0"),
-           "kg/m (Selfweigth + q-loads)");
+    // The mass that gave these frequencies.
+    pg.Row("Mass m = ", pg.F(s.analysis.ModalMass, "#0"), "kg/m (Selfweigth + q-loads)");
   }
   r.figures = true;
 }

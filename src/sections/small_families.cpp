@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
+#include "core/format.h"
 #include "core/state.h"
 #include "sections/dispatch.h"
 #include "sections/rolled_i.h"
@@ -13,6 +15,9 @@ namespace vn {
 namespace {
 
 bool On(Boolean flag) { return flag != 0; }
+
+// A dimension in the section's name, as the dialog shows it ("10", "11.5").
+std::string Dim(const State& s, double v) { return SingleText(ToSingle(v), s.decimalComma); }
 
 // W fyk / gammaM0 in kNm and A fyk / gammaM0 in kN.
 double MomentOf(const State& s, double W) { return Div(Div(W * s.project.fyk, s.project.gammaM0), 1e6); }
@@ -103,6 +108,8 @@ void FlatProperties(State& s) {
   c.Wplz = ToSingle(t * t * h / 4);
   c.tmax = c.tw;
   c.Wy = c.Wply;
+  // The family leaves profileName as the last family set it: the section's own name says what it is.
+  SetSectionName(s, 28, "Fb " + Dim(s, h) + "x" + Dim(s, t));
 
   SetOutlinePoint(c, 1, 0, 0);
   SetOutlinePoint(c, 2, 0, h);
@@ -144,6 +151,7 @@ void TeeProperties(State& s) {
   c.tw = ToSingle(p.p26.isttw);
   c.tf = p.p26.isttf1;
   const double h = c.h, b = c.b, tw = c.tw, tf = c.tf;
+  SetSectionName(s, 26, "T " + Dim(s, h) + "x" + Dim(s, b) + "x" + Dim(s, tw) + "x" + Dim(s, tf));
 
   // 1. The flange on top, the web below it.
   const RectSums r = SumRects({{b, tf, 0, h - tf}, {tw, h - tf, (b - tw) / 2, 0}});
@@ -240,6 +248,7 @@ void TubeProperties(State& s) {
   c.tw = p.p31.isttw;
   const double d = c.d, t = c.tw;
   const double di = d - 2 * t;
+  SetSectionName(s, 31, "Tube " + Dim(s, d) + "x" + Dim(s, t) + (p.p31.hotCold == 1 ? "" : " (Cold formed)"));
   c.A = ToSingle((PiSingle / 4) * (d * d - di * di));
   c.g = ToSingle(static_cast<double>(p.rho) * c.A * 1e-6);
   c.S = ToSingle((2 * PiSingle * d / 2) / 1000);
