@@ -90,6 +90,13 @@ struct Checks {
   Single MuMax = 0, MvMax = 0;    // kNm, governing moments about u and v
   Single MuCm = 0, MvCm = 0;      // kNm, the largest moments about u and v for Cm
   Single deltaU = 0, deltaV = 0;  // mm, deflections across u and v for Cm
+
+  // The last computed values of the factors that some families take from the runs before them
+  // (see RunControls); the shown values above are marked "not computed" (NaN) at each run's head.
+  struct Carried {
+    Number kc = 0, kyy = 0, kyz = 0, kzy = 0, kzz = 0;
+    Number lamdaLT = 0, fLT = 0, XLt = 0, xLT = 0;
+  } carried;
 };
 
 }  // namespace vn

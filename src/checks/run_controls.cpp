@@ -1,5 +1,6 @@
 // The control dispatcher: clears the governing ratios, picks the section control and the buckling
 // control of the family, and runs the buckling control only where its condition holds.
+#include <cmath>
 #include <limits>
 
 #include "checks/control_framework.h"
@@ -65,32 +66,63 @@ void MarkShownValuesNotComputed(Checks& k) {
     *v = none;
 }
 
+// The factors some families read from the runs before them: an angle takes kc of the last LT run
+// (Method 1) and, like the single symmetric I, the interaction factors of Method 2, for which they
+// have no formula of their own; INP has no row of the rolled LT curve and keeps its reduction
+// factors. Each is the last value a run computed (0 before any), kept across the runs that did
+// not compute it, and shown where it is used.
+void TakeCarriedFactors(State& s) {
+  Checks& k = s.checks;
+  const Checks::Carried& c = k.carried;
+  const int family = s.project.ProfileType;
+  const bool method1 = s.project.interactionMethod == 1;
+  if ((family == 10 || family == 11) && method1) k.kc = c.kc;
+  if ((family == 10 || family == 11 || family == 22) && !method1) {
+    k.kyy = c.kyy;
+    k.kyz = c.kyz;
+    k.kzy = c.kzy;
+    k.kzz = c.kzz;
+  }
+  if (family == 15 && s.project.ltbCurve == 3) {
+    k.lamdaLT = c.lamdaLT;
+    k.fLT = c.fLT;
+    k.XLt = c.XLt;
+    k.xLT = c.xLT;
+  }
+}
+
+void KeepCarriedFactors(Checks& k) {
+  auto keep = [](Number& to, Number from) {
+    if (!std::isnan(from)) to = from;
+  };
+  Checks::Carried& c = k.carried;
+  keep(c.kc, k.kc);
+  keep(c.kyy, k.kyy);
+  keep(c.kyz, k.kyz);
+  keep(c.kzy, k.kzy);
+  keep(c.kzz, k.kzz);
+  keep(c.lamdaLT, k.lamdaLT);
+  keep(c.fLT, k.fLT);
+  keep(c.XLt, k.XLt);
+  keep(c.xLT, k.xLT);
+}
+
+void RunFamilyControls(State& s);
+
 }  // namespace
 
 void RunControls(State& s) {
+  MarkShownValuesNotComputed(s.checks);
+  TakeCarriedFactors(s);
+  RunFamilyControls(s);
+  KeepCarriedFactors(s.checks);
+}
+
+namespace {
+
+void RunFamilyControls(State& s) {
   Analysis& an = s.analysis;
   Checks& k = s.checks;
-
-  // Some families read what the run before left: an angle takes kc of the last LT run (Method 1)
-  // and, like the single symmetric I, the interaction factors of Method 2, for which they have no
-  // formula; INP has no row of the rolled LT curve and keeps its reduction factors. Those values
-  // are kept, and shown, as they were used.
-  const Checks before = k;
-  MarkShownValuesNotComputed(k);
-  const int family = s.project.ProfileType;
-  if (family == 10 || family == 11) k.kc = before.kc;
-  if (family == 10 || family == 11 || family == 22) {
-    k.kyy = before.kyy;
-    k.kyz = before.kyz;
-    k.kzy = before.kzy;
-    k.kzz = before.kzz;
-  }
-  if (family == 15 && s.project.ltbCurve == 3) {
-    k.lamdaLT = before.lamdaLT;
-    k.fLT = before.fLT;
-    k.XLt = before.XLt;
-    k.xLT = before.xLT;
-  }
 
   // 1.
   an.IRsection = 0;
@@ -124,5 +156,7 @@ void RunControls(State& s) {
   }
   ClearBucklingTexts(k);
 }
+
+}  // namespace
 
 }  // namespace vn

@@ -283,5 +283,46 @@ TEST(DetailDialog, AFailedExportShowsTheOneMessage) {
   EXPECT_EQ(r.message, " Error on tranfere data to Excel ");
 }
 
+// ---- Values of other inputs ----
+
+// A value the run did not compute is blank, never the one an earlier section left: the LT block of
+// an angle (which has no lateral torsional control) after an HEA beam, and XLt of the rolled curve
+// when the general curve is in force.
+TEST(DetailTableValues, ValuesTheRunDidNotComputeAreBlank) {
+  State s = test::StartedState();  // HEA 300 beam with the lateral torsional control
+  BuildDetailTable(s);
+  ASSERT_NE(s.view.detailGrid[5][1], "");  // Mcr of the HEA
+  Fire(s, "vipping.Curve2");               // the general case of 6.3.2.2
+  BuildDetailTable(s);
+  EXPECT_EQ(s.view.detailGrid[10][0], " XLt");
+  EXPECT_EQ(s.view.detailGrid[10][1], "");
+  EXPECT_NE(s.view.detailGrid[11][1], "");  // XLtmod, the factor in use
+  Fire(s, "mnup10");
+  ASSERT_EQ(s.project.ProfileType, 10);
+  BuildDetailTable(s);
+  // XLtmod stays: the angle takes 1.0 for it in its own lines.
+  for (int row : {5, 6, 7, 8, 9, 10, 12, 13})
+    EXPECT_EQ(s.view.detailGrid[row][1], "") << s.view.detailGrid[row][0];
+}
+
+// After a failed run the dialog shows the message alone and its export is refused: no value of the
+// run before may leave the program as if it belonged to the inputs that failed.
+TEST(DetailDialog, AfterAFailedRunShowsTheMessageAndExportsNothing) {
+  State s = test::StartedState();
+  bool exported = false;
+  s.spreadsheet = [&](const State&, const std::string&, std::string*) { return exported = true; };
+  s.project.L = 0;  // not reachable by the field: the run faults
+  Recalculate(s);
+  ASSERT_TRUE(s.view.txtErrorVisible);
+  Fire(s, "CmdResult");
+  EXPECT_EQ(s.view.detailGrid[1][0],
+            " Calculation Error. Axial load too big. Increase profile or reduce axial force ");
+  for (size_t row = 2; row < s.view.detailGrid.size(); ++row) EXPECT_EQ(s.view.detailGrid[row][1], "") << row;
+  EventResult r = Fire(s, "detailedresult.cmdDetailedResult", "/tmp/out.xlsx");
+  EXPECT_TRUE(r.refused);
+  EXPECT_EQ(r.message, kNoResultsText);
+  EXPECT_FALSE(exported);
+}
+
 }  // namespace
 }  // namespace vn
