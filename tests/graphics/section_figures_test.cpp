@@ -11,6 +11,7 @@
 #include "core/pipeline.h"
 #include "core/recalculate.h"
 #include "graphics/drawing_inspect.h"
+#include "graphics/member_figure.h"
 #include "graphics/section_figure.h"
 #include "support/test_support.h"
 
@@ -52,13 +53,13 @@ Axes AxesOf(const draw::Drawing& d) {
   return a;
 }
 
-// Texts that leave a square picture of kBoxPixels, and pairs of texts that overlap.
-std::string TextFaults(const draw::Drawing& d) {
+// Texts that leave a square picture of `side` pixels, and pairs of texts that overlap.
+std::string TextFaults(const draw::Drawing& d, double side = kBoxPixels) {
   std::string faults;
-  const auto boxes = test::TextBoxes(d, kBoxPixels);
+  const auto boxes = test::TextBoxes(d, side);
   for (size_t i = 0; i < boxes.size(); ++i) {
     const test::TextBox& b = boxes[i];
-    if (b.left < 0 || b.top < 0 || b.right > kBoxPixels || b.bottom > kBoxPixels)
+    if (b.left < 0 || b.top < 0 || b.right > side || b.bottom > side)
       faults += " \"" + b.text + "\" cut off;";
     for (size_t j = i + 1; j < boxes.size(); ++j) {
       const test::TextBox& o = boxes[j];
@@ -110,6 +111,14 @@ TEST(SectionFiguresToScale, TheStockPicturesKeepTheirLettersInsideAndApart) {
   check(22);
   s.project.hsqKind = 1 - s.project.hsqKind;
   check(24);
+  // The load levels of the lateral torsional buckling dialog, icons of 28 pixels: "Za" of the
+  // fourth stays inside.
+  for (int level = 1; level <= 4; ++level) {
+    draw::Drawing d;
+    draw::RecordingCanvas c(d);
+    DrawLoadLevelPicture(c, level, false);
+    EXPECT_EQ(TextFaults(d, 28), "") << "level " << level;
+  }
 }
 
 // Which corners of its bounding box a drawn outline fills: lower left, lower right, upper left,
