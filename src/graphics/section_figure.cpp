@@ -497,11 +497,12 @@ void DrawSectionToScale(draw::Canvas& c, const State& s) {
   else
     DrawOutlineSection(c, f);
   // The axes through the centroid, reaching into the margin; each letter at the axis' end, inside
-  // the picture: "Y" right of the y axis, "Z" beside the foot of the z axis.
+  // the picture: "Y" right of the y axis, "Z" left of the foot of the z axis, away from the
+  // flanges' letters, which stand right of it.
   c.Line({cx - 0.58 * D, y}, {cx + 0.52 * D, y}, kAxis);
   c.Line({z, cy + 0.56 * D}, {z, cy - 0.57 * D}, kAxis);
   c.Text({cx + 0.525 * D, y}, "Y", AxisFont(), HAlign::Left, VAlign::Middle);
-  c.Text({z + 0.015 * D, cy - 0.59 * D}, "Z", AxisFont(), HAlign::Left, VAlign::Bottom);
+  c.Text({z - 0.015 * D, cy - 0.59 * D}, "Z", AxisFont(), HAlign::Right, VAlign::Bottom);
 }
 
 void DrawSectionFigure(State& s) {

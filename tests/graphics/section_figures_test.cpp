@@ -199,6 +199,7 @@ TEST(SectionFiguresToScale, TheSingleSymmetricIHasItsYAxisEzbAboveTheLowerEdge) 
     for (const DrawCommand& r : test::Commands(d, DrawCommand::Kind::Rectangle))
       lower = std::min({lower, r.points[0].y, r.points[1].y});
     EXPECT_NEAR(AxesOf(d).y - lower, k.ezb, 0.01);
+    EXPECT_EQ(TextFaults(d), "");  // the narrow flange's letter stays clear of "Z"
   }
 }
 
