@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "forms/bindings.h"
+#include "forms/look.h"
 #include "forms/session.h"
 
 namespace vn::forms {
@@ -35,13 +36,7 @@ QPushButton* FormDialog::closeButton(const QString& caption) {
 }
 
 void FormDialog::showEvent(QShowEvent* event) {
-  // A frame is at least as wide as its caption, which the look sets in from the border.
-  for (QGroupBox* g : findChildren<QGroupBox*>()) {
-    QString title = g->title();
-    title.replace("&&", "&");
-    const int needed = g->fontMetrics().horizontalAdvance(title) + 28;
-    if (g->minimumSizeHint().width() < needed) g->setMinimumWidth(needed);
-  }
+  KeepCaptionsWhole(this);
   // The dialog takes the size of what it shows: frames come and go with the state.
   if (layout()) layout()->setSizeConstraint(QLayout::SetFixedSize);
   QDialog::showEvent(event);

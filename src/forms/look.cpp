@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QGroupBox>
 #include <QStyleFactory>
 
 namespace vn::forms {
@@ -18,6 +19,15 @@ void ApplyLook(QApplication& app) {
       " padding: 0 3px; }"
       // The option set among the support pictures stands out.
       "QToolButton:checked { background: #cfe0f4; border: 1px solid #3d7cc9; border-radius: 3px; }");
+}
+
+void KeepCaptionsWhole(QWidget* dialog) {
+  for (QGroupBox* g : dialog->findChildren<QGroupBox*>()) {
+    QString title = g->title();
+    title.replace("&&", "&");
+    const int needed = g->fontMetrics().horizontalAdvance(title) + 28;
+    if (g->minimumSizeHint().width() < needed) g->setMinimumWidth(needed);
+  }
 }
 
 }  // namespace vn::forms

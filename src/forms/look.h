@@ -3,9 +3,14 @@
 #pragma once
 
 class QApplication;
+class QWidget;
 
 namespace vn::forms {
 
 void ApplyLook(QApplication& app);
+
+// Makes every frame of `dialog` at least as wide as its caption, which the look sets in from the
+// border, so that no caption is cut off by the frame's right edge.
+void KeepCaptionsWhole(QWidget* dialog);
 
 }  // namespace vn::forms

@@ -4,6 +4,8 @@
 //   varnelt --screenshot PATH [PROJECT.vnt]        the main form as a PNG picture, no display needed
 //   varnelt --screenshot-dialog NAME PATH [PROJECT] a dialog ("p01") as a PNG picture
 //   varnelt --screenshot-report KIND PATH [PROJECT] the printed report "section" or "stability"
+//   --do CONTROL[=TEXT]  fires an event before the picture is taken, as varnelt-cli does
+//                        (--do p10.pic1 shows the figures to scale)
 #include <QApplication>
 #include <QDir>
 #include <QPixmap>
@@ -12,6 +14,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/startup.h"
 #include "export/spreadsheet_export.h"
@@ -27,7 +30,8 @@ const char* kUsage =
     "usage: varnelt [PROJECT.vnt]\n"
     "       varnelt --screenshot PATH [PROJECT.vnt]\n"
     "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n"
-    "       varnelt --screenshot-report section|stability PATH [PROJECT.vnt]\n";
+    "       varnelt --screenshot-report section|stability PATH [PROJECT.vnt]\n"
+    "       --do CONTROL[=TEXT] before a screenshot fires an event, e.g. --do p10.pic1 (repeatable)\n";
 
 // Lets the window settle: layouts, deferred events, the first paint.
 void Settle() {
@@ -48,6 +52,7 @@ bool Save(QWidget* w, const QString& path) {
 
 int main(int argc, char** argv) {
   std::string shotPath, dialogName, reportKind, projectPath;
+  std::vector<std::string> events;
   bool shot = false;
   for (int i = 1; i < argc; ++i) {
     const std::string a = argv[i];
@@ -66,6 +71,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "varnelt: --screenshot-report takes section or stability\n");
         return 2;
       }
+    } else if (a == "--do" && i + 1 < argc) {
+      events.push_back(argv[++i]);
     } else if (a == "--help" || a == "-h") {
       std::fputs(kUsage, stdout);
       return 0;
@@ -109,6 +116,17 @@ int main(int argc, char** argv) {
       vn::EventResult r = session.fire("mnuopen", path);
       if (r.refused) std::fprintf(stderr, "%s\n", r.message.c_str());
     }
+  }
+
+  for (const std::string& e : events) {
+    const size_t eq = e.find('=');
+    const std::string control = e.substr(0, eq), text = eq == std::string::npos ? "" : e.substr(eq + 1);
+    if (!vn::forms::Session::knows(control)) {
+      std::fprintf(stderr, "varnelt: no control %s\n", control.c_str());
+      return 2;
+    }
+    vn::EventResult r = session.fire(control, text);
+    if (r.refused) std::fprintf(stderr, "%s\n", r.message.c_str());
   }
 
   if (shot && !reportKind.empty()) {

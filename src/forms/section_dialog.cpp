@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "forms/bindings.h"
+#include "forms/look.h"
 #include "forms/picture_box.h"
 #include "forms/session.h"
 #include "sections/section_dialogs.h"
@@ -287,6 +288,8 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   grid->addWidget(props, 0, 1);
   grid->addLayout(right, 0, 2);
 
+  // The figure's frame carries the longer of its two captions now.
+  KeepCaptionsWhole(this);
   connect(session_, &Session::changed, this, &SectionDialog::refresh);
   refresh();
 }

@@ -96,7 +96,9 @@ void DrawMemberSymbol(draw::Canvas& c, const State& s) {
 void DrawLoadLevelPicture(draw::Canvas& c, int loadLevel, bool singleSymmetric) {
   c.Clear(draw::kWhite);
   c.SetScale(0, 0, 40, 40);
-  const double top = 12, bot = 34, cx = 20;
+  // The fourth level carries "Za" right of the section: the section moves left to give it room in
+  // the small picture.
+  const double top = 12, bot = 34, cx = loadLevel == 4 ? 14 : 20;
   const double bTop = singleSymmetric ? 12 : 18, bBot = 18;
   c.Line({cx - bTop / 2, top}, {cx + bTop / 2, top}, kMemberPen);
   c.Line({cx - bBot / 2, bot}, {cx + bBot / 2, bot}, kMemberPen);
@@ -116,8 +118,8 @@ void DrawLoadLevelPicture(draw::Canvas& c, int loadLevel, bool singleSymmetric) 
   c.Line({cx + 0.01, from}, {cx + 0.01, at}, red);
   c.Polygon({{cx, at}, {cx - 2, at - 3}, {cx + 2, at - 3}}, red, draw::kRed);
   if (loadLevel == 4) {
-    c.Line({cx + 5, at}, {cx + 5, centre}, kThin);
-    c.Text({cx + 6, (at + centre) / 2}, "Za", SmallFont(), HAlign::Left, VAlign::Middle);
+    c.Line({cx + 4, at}, {cx + 4, centre}, kThin);
+    c.Text({cx + 5, (at + centre) / 2}, "Za", SmallFont(), HAlign::Left, VAlign::Middle);
   }
 }
 

@@ -49,7 +49,8 @@ void Box(draw::Canvas& c, double x0, double y0, double x1, double y1) {
 }
 
 // A dimension line with end ticks and its letter beside it. Vertical lines put the letter on the
-// left, horizontal ones above (the stock pictures have y upwards).
+// left, horizontal ones above or below (the stock pictures have y upwards), at `at` of the line's
+// length: a line under the section keeps its letter clear of the "Z" at the foot of the z axis.
 void DimV(draw::Canvas& c, double x, double y0, double y1, const char* letter) {
   c.Line({x, y0}, {x, y1}, kDimension);
   c.Line({x - 1.5, y0}, {x + 1.5, y0}, kDimension);
@@ -57,21 +58,23 @@ void DimV(draw::Canvas& c, double x, double y0, double y1, const char* letter) {
   c.Text({x - 2, (y0 + y1) / 2}, letter, LetterFont(), HAlign::Right, VAlign::Middle);
 }
 
-void DimH(draw::Canvas& c, double y, double x0, double x1, const char* letter, bool above = true) {
+void DimH(draw::Canvas& c, double y, double x0, double x1, const char* letter, bool above = true,
+          double at = 0.5) {
   c.Line({x0, y}, {x1, y}, kDimension);
   c.Line({x0, y - 1.5}, {x0, y + 1.5}, kDimension);
   c.Line({x1, y - 1.5}, {x1, y + 1.5}, kDimension);
-  c.Text({(x0 + x1) / 2, above ? y + 1.5 : y - 1.5}, letter, LetterFont(), HAlign::Center,
+  c.Text({x0 + at * (x1 - x0), above ? y + 1.5 : y - 1.5}, letter, LetterFont(), HAlign::Center,
          above ? VAlign::Bottom : VAlign::Top);
 }
 
 // Axes through (x, y): Y from `left` to `right` with "Y" at its end, Z from `top` down to `bottom`
-// with "Z" under it; the ends keep clear of the dimension lines.
+// with "Z" hanging right of its foot; the ends keep clear of the dimension lines, and `right` and
+// `bottom` leave the letters room inside the picture (5 and 8 units).
 void Axes(draw::Canvas& c, double x, double y, double left, double right, double top, double bottom) {
   c.Line({left, y}, {right, y}, kAxis);
   c.Line({x, top}, {x, bottom}, kAxis);
   c.Text({right, y}, "Y", AxisFont(), HAlign::Left, VAlign::Middle);
-  c.Text({x, bottom}, "Z", AxisFont(), HAlign::Center, VAlign::Top);
+  c.Text({x + 1, bottom}, "Z", AxisFont(), HAlign::Left, VAlign::Top);
 }
 
 // Points round a quarter circle, from angle a0 to a1 (radians).
@@ -108,12 +111,11 @@ void StockI(draw::Canvas& c, double b, double bBottom, double h, bool tapered, b
   DimV(c, std::min(xt0, xb0) - 5, bot, top, "h");
   if (unequal) {
     DimH(c, top + 4, xt0, xt1, "b1");
-    DimH(c, bot - 4, xb0, xb1, "b2", false);
+    DimH(c, bot - 4, xb0, xb1, "b2", false, 0.85);
   } else {
     DimH(c, top + 4, xt0, xt1, "b");
   }
-  Axes(c, 50, 50, std::min(xt0, xb0) - 2, 50 + std::max(b, bBottom) / 2 + 8, top + 2,
-       bot - (unequal ? 13 : 6));
+  Axes(c, 50, 50, std::min(xt0, xb0) - 2, 50 + std::max(b, bBottom) / 2 + 8, top + 2, bot - 6);
 }
 
 // A channel with its web at the left.
@@ -159,9 +161,9 @@ void StockAngle(draw::Canvas& c, double b, bool letters) {
   Shape(c, {{x0, y0}, {x0 + b, y0}, {x0 + b, y0 + t}, {x0 + t, y0 + t}, {x0 + t, y0 + h}, {x0, y0 + h}});
   if (!letters) return;
   DimV(c, x0 - 5, y0, y0 + h, "h");
-  DimH(c, y0 - 5, x0, x0 + b, "b", false);
+  DimH(c, y0 - 5, x0, x0 + b, "b", false, 0.75);
   // The centroid lies near the heel.
-  Axes(c, x0 + b * 0.28, y0 + h * 0.3, x0 - 2, x0 + b + 6, y0 + h + 2, y0 - 14);
+  Axes(c, x0 + b * 0.28, y0 + h * 0.3, x0 - 2, x0 + b + 6, y0 + h + 2, y0 - 9);
 }
 
 // A welded box; `flush` puts the webs outside under the flanges' edges.
@@ -176,18 +178,17 @@ void StockBox(draw::Canvas& c, double b1, double b2, bool flush, bool letters, b
   if (!letters) return;
   DimV(c, 50 - std::max(b1, b2) / 2 - 5, bot, top, "h");
   DimH(c, top + 4, 50 - b1 / 2, 50 + b1 / 2, unequal ? "b1" : "b");
-  if (unequal) DimH(c, bot - 4, 50 - b2 / 2, 50 + b2 / 2, "b2", false);
-  Axes(c, 50, 50, 50 - std::max(b1, b2) / 2 - 2, 50 + std::max(b1, b2) / 2 + 8, top + 2,
-       bot - (unequal ? 13 : 6));
+  if (unequal) DimH(c, bot - 4, 50 - b2 / 2, 50 + b2 / 2, "b2", false, 0.85);
+  Axes(c, 50, 50, 50 - std::max(b1, b2) / 2 - 2, 50 + std::max(b1, b2) / 2 + 4, top + 2, bot - 6);
 }
 
 // HSQ: a narrow top flange, two webs, a wide bottom flange standing out on both sides (symmetric)
 // or one side (non symmetric). The second kind sets the webs in from the top flange's edges.
 void StockHsq(draw::Canvas& c, bool symmetric, bool inset, bool letters) {
   const double h = 56, t = 6, top = 50 + h / 2, bot = 50 - h / 2;
-  const double b1 = 40, b2 = 80;
-  const double topX0 = symmetric ? 50 - b1 / 2 : 10, topX1 = topX0 + b1;
-  const double botX0 = symmetric ? 50 - b2 / 2 : 10, botX1 = botX0 + b2;
+  const double b1 = 36, b2 = 72;
+  const double topX0 = symmetric ? 50 - b1 / 2 : 14, topX1 = topX0 + b1;
+  const double botX0 = symmetric ? 50 - b2 / 2 : 14, botX1 = botX0 + b2;
   const double web0 = topX0 + (inset ? 6 : 0), web1 = topX1 - (inset ? 6 : 0);
   Box(c, topX0, top - t, topX1, top);
   Box(c, botX0, bot, botX1, bot + t);
@@ -196,8 +197,8 @@ void StockHsq(draw::Canvas& c, bool symmetric, bool inset, bool letters) {
   if (!letters) return;
   DimV(c, botX0 - 4, bot, top, "h");
   DimH(c, top + 4, topX0, topX1, "b1");
-  DimH(c, bot - 4, botX0, botX1, "b2", false);
-  Axes(c, (web0 + web1) / 2, 50 - 6, botX0 - 1, botX1 + 4, top + 2, bot - 13);
+  DimH(c, bot - 4, botX0, botX1, "b2", false, 0.85);
+  Axes(c, (web0 + web1) / 2, 50 - 6, botX0 - 1, botX1 + 4, top + 2, bot - 6);
 }
 
 void StockTee(draw::Canvas& c, bool letters) {
@@ -235,7 +236,7 @@ void StockTube(draw::Canvas& c, bool letters) {
 // A plate with its stiffener underneath: 51 flat bar, 52 rolled angle, 53 welded angle, 54 bulb
 // flat, 55 and 56 a T.
 void StockPlate(draw::Canvas& c, int type, bool letters) {
-  const double B = 84, t = 5, top = 82, plateBot = top - t, foot = 18, tw = 5;
+  const double B = 76, t = 5, top = 82, plateBot = top - t, foot = 18, tw = 5;
   Box(c, 50 - B / 2, plateBot, 50 + B / 2, top);
   const double wx = 50 - tw / 2;
   double flange = 0;
@@ -270,40 +271,62 @@ void StockPlate(draw::Canvas& c, int type, bool letters) {
   DimV(c, 50 - B / 2 + 10, foot, plateBot, "h");
   if (flange > 0) {
     const double x0 = type == 52 || type == 53 ? wx : 50 - flange / 2;
-    DimH(c, foot - 4, x0, x0 + flange, "b", false);
+    DimH(c, foot - 4, x0, x0 + flange, "b", false, 0.9);
   }
-  Axes(c, 50, 64, 50 - B / 2 - 2, 50 + B / 2 + 6, top + 2, foot - (flange > 0 ? 13 : 6));
+  Axes(c, 50, 64, 50 - B / 2 - 2, 50 + B / 2 + 4, top + 2, foot - 9);
 }
 
 double WiderFirst(const State& s) { return s.project.p22.istb1 >= s.project.p22.istb2; }
 
 // ---- Drawing to scale ----
 
-Point At(const Section& sec, int i) {
-  const OutlinePoint& p = sec.Outline[static_cast<size_t>(std::clamp(i, 0, 81))];
-  return {p.x, p.y};
+// How a family's record places its figure. The outline runs up from the lower left corner of the
+// bounding box, and so does FigCentroidZ, with two exceptions:
+// - the angle's record runs down from the back of the horizontal leg: its points (heel first) and
+//   its centroid h - ez. Drawn mirrored, it is the L of the stock picture, heel at the lower left,
+//   the y axis ez above the foot and u rising to the right;
+// - the families whose FigCentroidZ is the distance from the upper edge while their rectangles run
+//   up: the single symmetric I (h - ezb), the HSQ and the unequal box (h - ez, ez from the lower
+//   edge), the plates with a stiffener (ez from the plate).
+bool MirroredRecord(int type) { return type == 10 || type == 11; }
+
+bool CentroidFromUpperEdge(int type) {
+  return MirroredRecord(type) || type == 22 || type == 24 || type == 25 || type == 27 ||
+         (type >= 51 && type <= 56);
 }
 
-std::vector<Point> Contour(const Section& sec, int first, int last) {
-  std::vector<Point> pts;
-  for (int i = first; i <= last && i <= 81; ++i) pts.push_back(At(sec, i));
-  return pts;
+// The record's points in the drawing's frame, y upwards from the lower edge.
+struct FigureFrame {
+  const Section& sec;
+  bool mirrored = false;
+  Point At(int i) const {
+    const OutlinePoint& p = sec.Outline[static_cast<size_t>(std::clamp(i, 0, 81))];
+    return {p.x, mirrored ? sec.FigHeight - p.y : p.y};
+  }
+  std::vector<Point> Contour(int first, int last) const {
+    std::vector<Point> pts;
+    for (int i = first; i <= last && i <= 81; ++i) pts.push_back(At(i));
+    return pts;
+  }
+};
+
+void DrawOutlineSection(draw::Canvas& c, const FigureFrame& f) {
+  c.Polygon(f.Contour(1, f.sec.OutlineCount), kEdge, kSteel);
+  if (f.sec.OutlineInnerLast >= 51) c.Polygon(f.Contour(51, f.sec.OutlineInnerLast), kEdge, draw::kWhite);
 }
 
-void DrawOutlineSection(draw::Canvas& c, const Section& sec) {
-  c.Polygon(Contour(sec, 1, sec.OutlineCount), kEdge, kSteel);
-  if (sec.OutlineInnerLast >= 51) c.Polygon(Contour(sec, 51, sec.OutlineInnerLast), kEdge, draw::kWhite);
-}
-
-void DrawRectSection(draw::Canvas& c, const Section& sec, int type, double unit) {
+// `unit` is a fiftieth of the figure's larger dimension; the margin round the section is five units.
+void DrawRectSection(draw::Canvas& c, const FigureFrame& f, int type, double unit) {
+  const Section& sec = f.sec;
   const int n = std::clamp<int>(sec.OutlineRects, 0, 40);
-  for (int i = 1; i <= n; ++i) c.Rectangle(At(sec, 2 * i - 1), At(sec, 2 * i), kEdge, kSteel);
+  for (int i = 1; i <= n; ++i) c.Rectangle(f.At(2 * i - 1), f.At(2 * i), kEdge, kSteel);
   if (n < 1) return;
   // The flanges' letters as the dialog's fields name them: b1 above the upper flange, b2 below the
-  // lower one, whatever the order of the rectangles; the plates carry B on the plate.
+  // lower one, whatever the order of the rectangles; the plates carry B on the plate. The letter
+  // stands in the margin, close to the plate, so that it is not cut by the picture's edge.
   auto label = [&](int rect, const char* letter, bool above) {
-    const Point a = At(sec, 2 * rect - 1), b = At(sec, 2 * rect);
-    const double y = above ? std::max(a.y, b.y) + unit : std::min(a.y, b.y) - unit;
+    const Point a = f.At(2 * rect - 1), b = f.At(2 * rect);
+    const double y = above ? std::max(a.y, b.y) + 0.1 * unit : std::min(a.y, b.y) - 0.1 * unit;
     // Beside the z axis, which runs through the middle, at three quarters of the plate.
     c.Text({0.25 * std::min(a.x, b.x) + 0.75 * std::max(a.x, b.x), y}, letter, LetterFont(), HAlign::Center,
            above ? VAlign::Bottom : VAlign::Top);
@@ -311,9 +334,9 @@ void DrawRectSection(draw::Canvas& c, const Section& sec, int type, double unit)
   // The upper flange reaches highest (the widest plate where a web reaches as high), the lower one
   // lowest.
   int top = 1, bottom = 1;
-  auto hi = [&](int i) { return std::max(At(sec, 2 * i - 1).y, At(sec, 2 * i).y); };
-  auto lo = [&](int i) { return std::min(At(sec, 2 * i - 1).y, At(sec, 2 * i).y); };
-  auto wide = [&](int i) { return std::fabs(At(sec, 2 * i).x - At(sec, 2 * i - 1).x); };
+  auto hi = [&](int i) { return std::max(f.At(2 * i - 1).y, f.At(2 * i).y); };
+  auto lo = [&](int i) { return std::min(f.At(2 * i - 1).y, f.At(2 * i).y); };
+  auto wide = [&](int i) { return std::fabs(f.At(2 * i).x - f.At(2 * i - 1).x); };
   for (int i = 2; i <= n; ++i) {
     if (hi(i) > hi(top) || (hi(i) == hi(top) && wide(i) > wide(top))) top = i;
     if (lo(i) < lo(bottom) || (lo(i) == lo(bottom) && wide(i) > wide(bottom))) bottom = i;
@@ -326,15 +349,46 @@ void DrawRectSection(draw::Canvas& c, const Section& sec, int type, double unit)
   }
 }
 
-void DrawChannelOrAngle(draw::Canvas& c, const Section& sec) {
-  DrawOutlineSection(c, sec);
-  // The two points after the outline: for a channel the centroid and the shear centre behind the
-  // web, for an angle the ends of the principal axis; marked with a line and a small circle.
-  const Point a = At(sec, sec.OutlineCount + 1), b = At(sec, sec.OutlineCount + 2);
+// The channel: the line from the centroid to the shear centre behind the web, with a small circle.
+void DrawChannel(draw::Canvas& c, const FigureFrame& f) {
+  DrawOutlineSection(c, f);
+  const Point a = f.At(f.sec.OutlineCount + 1), b = f.At(f.sec.OutlineCount + 2);
   if (a.x != b.x || a.y != b.y) {
     c.Line(a, b, kAxis);
-    c.Circle(b, std::max(sec.FigWidth, sec.FigHeight) * 0.015, kEdge, draw::kWhite);
+    c.Circle(b, std::max(f.sec.FigWidth, f.sec.FigHeight) * 0.015, kEdge, draw::kWhite);
   }
+}
+
+// The angle with its principal axes through the centroid: u along the two points after the outline,
+// v square to it, both kept clear of the picture's edge by the room of their letters.
+void DrawAngle(draw::Canvas& c, const FigureFrame& f, Point centroid, double x0, double y0, double x1,
+               double y1, double D) {
+  DrawOutlineSection(c, f);
+  const Point a = f.At(f.sec.OutlineCount + 1), b = f.At(f.sec.OutlineCount + 2);
+  double ux = b.x - a.x, uy = b.y - a.y;
+  const double len = std::hypot(ux, uy);
+  if (!(len > 0)) return;
+  ux /= len;
+  uy /= len;
+  if (ux < 0) ux = -ux, uy = -uy;  // u points to the right, v upwards
+  const double vx = -uy, vy = ux;
+  const double room = 0.08 * D;
+  // How far a ray from the centroid runs before it leaves the picture less the room.
+  auto reach = [&](double dx, double dy) {
+    double t = 0.45 * D;
+    if (dx > 0) t = std::min(t, (x1 - room - centroid.x) / dx);
+    if (dx < 0) t = std::min(t, (x0 + room - centroid.x) / dx);
+    if (dy > 0) t = std::min(t, (y1 - room - centroid.y) / dy);
+    if (dy < 0) t = std::min(t, (y0 + room - centroid.y) / dy);
+    return std::max(t, 0.0);
+  };
+  const double tu = std::min(reach(ux, uy), reach(-ux, -uy)), tv = std::min(reach(vx, vy), reach(-vx, -vy));
+  const Point uEnd{centroid.x + tu * ux, centroid.y + tu * uy},
+      vEnd{centroid.x + tv * vx, centroid.y + tv * vy};
+  c.Line({centroid.x - tu * ux, centroid.y - tu * uy}, uEnd, kAxis);
+  c.Line({centroid.x - tv * vx, centroid.y - tv * vy}, vEnd, kAxis);
+  c.Text({uEnd.x + 0.01 * D, uEnd.y}, "u", AxisFont(), HAlign::Left, VAlign::Top);
+  c.Text({vEnd.x - 0.01 * D, vEnd.y}, "v", AxisFont(), vx < 0 ? HAlign::Right : HAlign::Left, VAlign::Top);
 }
 
 void DrawRoundSection(draw::Canvas& c, const Section& sec) {
@@ -428,20 +482,27 @@ void DrawSectionToScale(draw::Canvas& c, const State& s) {
   const double half = 0.6 * D, cx = W / 2, cy = H / 2;
   c.Clear(draw::kWhite);
   c.SetScale(cx - half, cy + half, cx + half, cy - half);
+  const FigureFrame f{sec, MirroredRecord(type)};
+  // The centroid in the drawing's frame.
+  const double y = CentroidFromUpperEdge(type) ? H - sec.FigCentroidZ : sec.FigCentroidZ;
+  const double z = sec.FigCentroidY;
   if (IsRectFamily(type))
-    DrawRectSection(c, sec, type, 0.02 * D);
-  else if (type == 5 || type == 16 || type == 103 || type == 10 || type == 11)
-    DrawChannelOrAngle(c, sec);
+    DrawRectSection(c, f, type, 0.02 * D);
+  else if (type == 5 || type == 16 || type == 103)
+    DrawChannel(c, f);
+  else if (type == 10 || type == 11)
+    DrawAngle(c, f, {z, y}, cx - half, cy - half, cx + half, cy + half, D);
   else if (type == 31)
     DrawRoundSection(c, sec);
   else
-    DrawOutlineSection(c, sec);
-  // The axes through the centroid, reaching into the margin.
-  const double y = sec.FigCentroidZ, z = sec.FigCentroidY;
-  c.Line({cx - 0.58 * D, y}, {cx + 0.5 * D + 0.02 * D, y}, kAxis);
-  c.Line({z, cy + 0.56 * D}, {z, cy - 0.52 * D}, kAxis);
-  c.Text({cx + 0.52 * D, y}, "Y", AxisFont(), HAlign::Left, VAlign::Middle);
-  c.Text({z, cy - 0.53 * D}, "Z", AxisFont(), HAlign::Center, VAlign::Top);
+    DrawOutlineSection(c, f);
+  // The axes through the centroid, reaching into the margin; each letter at the axis' end, inside
+  // the picture: "Y" right of the y axis, "Z" left of the foot of the z axis, away from the
+  // flanges' letters, which stand right of it.
+  c.Line({cx - 0.58 * D, y}, {cx + 0.52 * D, y}, kAxis);
+  c.Line({z, cy + 0.56 * D}, {z, cy - 0.57 * D}, kAxis);
+  c.Text({cx + 0.525 * D, y}, "Y", AxisFont(), HAlign::Left, VAlign::Middle);
+  c.Text({z - 0.015 * D, cy - 0.59 * D}, "Z", AxisFont(), HAlign::Right, VAlign::Bottom);
 }
 
 void DrawSectionFigure(State& s) {
