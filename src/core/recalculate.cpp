@@ -76,6 +76,9 @@ void Recalculate(State& s) {
     ShowWebText(s);
     ShowControls(s);
     UpdateMainFormState(s);
+    // The section values once more: the shear resistances among them come from the controls, and
+    // an open dialog must not show those of the run before.
+    ShowSectionValues(s);
     s.resultsValid = true;
     return;
   } catch (const CalcFault&) {

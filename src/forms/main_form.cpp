@@ -720,7 +720,7 @@ void MainForm::onMenu(const std::string& control) {
       control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" || control == "mnuprint11";
   if (print && !s.resultsValid) {
     // No report of an earlier run under the inputs that failed.
-    QMessageBox::warning(this, "Varnelt - EC3", QString::fromUtf8(kNoResultsText));
+    boxes().warning(this, QString::fromUtf8(kNoResultsText));
     return;
   }
   if (control == "mnuprint0" || control == "mnuprint00") {

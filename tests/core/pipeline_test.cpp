@@ -166,6 +166,63 @@ TEST(FieldProtocol, IntegerFieldsRoundHalvesToEven) {
   EXPECT_EQ(s.project.deflectionLimit, 1501);
 }
 
+// A control the person can't use on the form (disabled, or hidden with its frame) refuses its
+// event with a message naming it and leaves the project as it was: the strength of a catalogued
+// grade, the partial factors of a code that fixes them, the load factors outside "ULS/SLS".
+TEST(FieldProtocol, DisabledOrHiddenControlsRefuseAndLeaveTheProjectAsItWas) {
+  State s = test::StartedState();  // S355, EC3, Eq 6.10
+  const std::string before = StateToJson(s);
+  struct Row {
+    const char* control;
+    const char* text;
+    const char* message;
+  } rows[] = {{"ifyk", "420", "ifyk is disabled"},
+              {"setup.ifyk", "420", "setup.ifyk is disabled"},
+              {"setup.igammam0", "1.1", "setup.igammam0 is disabled"},
+              {"setup.iLfULS_G", "2", "setup.iLfULS_G is hidden (frame setup.frULS)"},
+              {"ispring", "20", "ispring is hidden"}};
+  for (const Row& row : rows) {
+    EventResult r = Fire(s, row.control, row.text);
+    EXPECT_TRUE(r.refused) << row.control;
+    EXPECT_EQ(r.message, row.message);
+  }
+  EXPECT_EQ(s.project.fyk, 355.0f);
+  EXPECT_EQ(s.view.text["ifyk"], "355");
+  EXPECT_EQ(s.project.gammaM0, 1.0f);
+  // The JSON differs only in the last message.
+  std::string after = StateToJson(s);
+  auto cut = [](std::string j) { return j.substr(0, j.find("\"message\":")); };
+  EXPECT_EQ(cut(after), cut(before));
+}
+
+// On the user row the typed strength is the one in use and shows as typed, formatted; leaving the
+// row for a catalogued grade shows that grade's strength at once.
+TEST(FieldProtocol, TheStrengthFieldShowsTheStrengthInUse) {
+  State s = test::StartedState();
+  Fire(s, "cbofyk", std::to_string(s.steel.gradeLast));
+  EventResult r = Fire(s, "ifyk", "420.4");
+  EXPECT_FALSE(r.refused);
+  EXPECT_EQ(s.project.fyk, 420.4f);
+  EXPECT_EQ(s.view.text["ifyk"], "420");
+  Fire(s, "cbofyk", "2");  // S275: 275 up to 40 mm, the HEA 300's 14 mm flange
+  EXPECT_EQ(s.project.fyk, 275.0f);
+  EXPECT_EQ(s.view.text["ifyk"], "275");
+}
+
+// The section values of an open dialog are those of the run that ended: the shear resistance of
+// the single symmetric I comes from its controls, and must not be 0.0 or the run before's.
+// Default 22: web hw = 600 - 2*20 = 560 x 12, eta 1.2, S355: 1.2*560*12*355/sqrt 3/1000 = 1652.8 kN.
+TEST(SectionValues, ShowTheShearResistanceOfTheRunThatEnded) {
+  State s = test::StartedState();
+  Fire(s, "mnup22");
+  auto shown = [&s](const std::string& label) {
+    for (const View::Line& l : s.view.sectionValues)
+      if (l.label == label) return l.value;
+    return std::string("(none)");
+  };
+  EXPECT_EQ(shown("Vc,z,Rd ="), "1652.8");
+}
+
 TEST(FieldProtocol, AnIntegerOverflowIsSilentAndKeepsTheOldValue) {
   State s = NewState();
   Fire(s, "cbutt3");

@@ -22,6 +22,7 @@
 #include <clocale>
 #include <memory>
 
+#include "core/recalculate.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
 #include "forms/look.h"
@@ -109,6 +110,19 @@ class FormsTest : public QObject {
       for (int x = page.width() / 2; x < page.width() && !green; ++x)
         green = page.pixelColor(x, y) == QColor(0, 128, 0);
     QVERIFY(green);
+  }
+
+  // After a failed run no result of the run before is on show or printed: the summary is empty
+  // beside the error text, and each print entry answers with its message instead of a report.
+  void aFailedRunShowsNoResultAndPrintsNoReport() {
+    for (auto [control, text] :
+         {std::pair{"mnup04", ""}, {"p04.cbo", "0"}, {"il", "10"}, {"Loading.inn(1)", "500"}})
+      session->fire(control, text);
+    QVERIFY(!session->state().resultsValid);
+    QTRY_VERIFY(control<QLabel>("txtError")->isVisible());
+    QVERIFY(control<QTextEdit>("summary")->toPlainText().trimmed().isEmpty());
+    for (const char* entry : {"mnuprint0", "mnuprint1"}) form->menuAction(entry)->trigger();
+    QCOMPARE(warnings, (QStringList{vn::kNoResultsText, vn::kNoResultsText}));
   }
 
   // ---- the field protocol ----
