@@ -19,8 +19,6 @@ namespace vn {
 
 namespace {
 
-bool On(Boolean flag) { return flag != 0; }
-
 std::string Dim(const State& s, double v) { return SingleText(ToSingle(v), s.decimalComma); }
 
 // The drawn rectangles of a section of a top plate, two webs and a bottom plate: the left web at
