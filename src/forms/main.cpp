@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "core/recalculate.h"
 #include "core/startup.h"
 #include "export/spreadsheet_export.h"
 #include "forms/look.h"
@@ -131,6 +132,10 @@ int main(int argc, char** argv) {
 
   if (shot && !reportKind.empty()) {
     const auto kind = reportKind == "section" ? vn::ReportKind::SectionCapacity : vn::ReportKind::Stability;
+    if (!session.state().resultsValid) {  // no report of an earlier run under inputs that failed
+      std::fprintf(stderr, "%s\n", vn::kNoResultsText);
+      return 1;
+    }
     if (vn::forms::SaveReportPicture(session.state(), kind, QString::fromStdString(shotPath))) return 0;
     std::fprintf(stderr, "varnelt: can't write %s\n", shotPath.c_str());
     return 3;

@@ -35,6 +35,19 @@ State BeamColumn(int method) {
   return s;
 }
 
+// The single symmetric I has no factors of its own under Method 2: it takes those the run before
+// it computed (the HEB column's here), and they are shown as the ones it used.
+TEST(MethodTwo, TheSingleSymmetricITakesTheFactorsOfTheRunBefore) {
+  State s = BeamColumn(2);
+  const double kyy = s.checks.kyy, kzy = s.checks.kzy;
+  ASSERT_GT(kyy, 0);
+  Do(s, "mnup22");
+  ASSERT_EQ(s.project.ProfileType, 22);
+  EXPECT_FALSE(s.view.txtErrorVisible);
+  EXPECT_EQ(s.checks.kyy, kyy);
+  EXPECT_EQ(s.checks.kzy, kzy);
+}
+
 // Method 1:
 //   Cmy,0 = 1 + 0.03 * 500/7378.517 = 1.0020329 (pinned ends, q-load);
 //   Cmz,0 = 1 + 0.03 * 500/2594.657 = 1.0057811 (nothing about z: a zero diagram counts as curved)

@@ -79,6 +79,17 @@ TEST(ShearResistance, WithoutStiffenersThePanelIsTheWholeMember) {
   EXPECT_TRUE(Near(s.section.VbzRd, 674.1602, kHandCalc));
 }
 
+TEST(ShearResistance, StiffenersFartherApartThanTheWebIsDeep) {
+  State s = Girder();
+  s.project.webStiffeners = 1;
+  s.project.a = 2000;
+  // a/hw = 2 >= 1: k = 5.34 + 4*(1000/2000)^2 = 6.34; lamda = 1000/37.4/1/8/sqrt k = 1.3273755
+  // chi = 0.83/1.3273755 = 0.6252941; Vbw = 0.6252941*8000*235/sqrt 3/1000 = 678.7058
+  // c = 2000*(0.25 + 1.6*300*400/(1000^2*8)) = 548; Vbf = 300*400*235/548/1000 = 51.4599
+  ComputeShearResistances(s, 0, 0);
+  EXPECT_TRUE(Near(s.section.VbzRd, 730.1656, kHandCalc));
+}
+
 TEST(ShearResistance, SuffixIsKeptForTheShearLine) {
   State s = Girder();
   EXPECT_EQ(ComputeShearResistances(s, 0, 0), " Support stiffener recommended)");

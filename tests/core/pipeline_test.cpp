@@ -368,6 +368,8 @@ TEST(ControlTable, FindsControlsByBareNameDialogNameAndSlot) {
   EXPECT_EQ(Controls().Find("nosuchcontrol", &index), nullptr);
   EXPECT_EQ(Controls().Find("il(1)", &index), nullptr);  // not an array
   EXPECT_EQ(Controls().Find("cbutt9", &index), nullptr);
+  EXPECT_NE(Controls().Find("mnurecentfile(0)", &index), nullptr);  // an array counted from 0
+  EXPECT_EQ(index, 0);
 }
 
 TEST(ControlTable, AnUnknownControlChangesNothing) {

@@ -297,6 +297,12 @@ TEST(DetailTableValues, ValuesTheRunDidNotComputeAreBlank) {
   EXPECT_EQ(s.view.detailGrid[10][0], " XLt");
   EXPECT_EQ(s.view.detailGrid[10][1], "");
   EXPECT_NE(s.view.detailGrid[11][1], "");  // XLtmod, the factor in use
+  // Without the lateral torsional control the HEA computes x,LT = 1 but no XLt.
+  Fire(s, "ch_vipp", "0");
+  BuildDetailTable(s);
+  EXPECT_EQ(s.view.detailGrid[10][1], "");
+  EXPECT_EQ(s.view.detailGrid[11][1], "1.000");
+  Fire(s, "ch_vipp", "1");
   Fire(s, "mnup10");
   ASSERT_EQ(s.project.ProfileType, 10);
   BuildDetailTable(s);
