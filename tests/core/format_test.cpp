@@ -243,6 +243,7 @@ TEST(ParseNumber, PointLocaleStopsAtABlankInsideTheNumber) {
   EXPECT_EQ(Parse("2 . 5", false).value, 2.0f);
   EXPECT_EQ(Parse("2. 5", false).value, 2.0f);
   EXPECT_EQ(Parse("1e 3", false).value, 1.0f);
+  EXPECT_EQ(Parse("\t 12", false).value, 12.0f);  // blanks and tabs before it are skipped
   EXPECT_FALSE(Parse("2 3", false).mismatch);
 }
 

@@ -336,6 +336,15 @@ TEST(RefreshMainForm, FiresTheSupportEventWhenAnotherButtonBecomesTheSetOne) {
   EXPECT_EQ(s.view.text["ibly"], "0.50");
   EXPECT_EQ(s.project.bucklingCaseZ, 6);
   EXPECT_EQ(s.view.text["iblz"], "0.85");
+  // A pinned end with a spring at the other, the last type: its buckling case, and its field shown.
+  s.project.SupportType = 5;
+  RefreshMainForm(s);
+  EXPECT_EQ(s.project.bucklingCaseY, 2);
+  EXPECT_TRUE(s.view.visible["ispring"]);
+  s.project.SupportType = 2;
+  s.project.bucklingCaseY = 4;
+  s.project.bucklingFactorY = 0.5f;
+  RefreshMainForm(s);
   // The same support again: nothing fires, the case read stays.
   s.project.bucklingCaseY = 3;
   s.project.bucklingFactorY = 0.7f;

@@ -291,18 +291,19 @@ TEST(DetailDialog, AFailedExportShowsTheOneMessage) {
 TEST(DetailTableValues, ValuesTheRunDidNotComputeAreBlank) {
   State s = test::StartedState();  // HEA 300 beam with the lateral torsional control
   BuildDetailTable(s);
-  ASSERT_NE(s.view.detailGrid[5][1], "");  // Mcr of the HEA
-  Fire(s, "vipping.Curve2");               // the general case of 6.3.2.2
-  BuildDetailTable(s);
-  EXPECT_EQ(s.view.detailGrid[10][0], " XLt");
-  EXPECT_EQ(s.view.detailGrid[10][1], "");
-  EXPECT_NE(s.view.detailGrid[11][1], "");  // XLtmod, the factor in use
+  ASSERT_NE(s.view.detailGrid[5][1], "");   // Mcr of the HEA
+  ASSERT_NE(s.view.detailGrid[10][1], "");  // XLt of the rolled curve
   // Without the lateral torsional control the HEA computes x,LT = 1 but no XLt.
   Fire(s, "ch_vipp", "0");
   BuildDetailTable(s);
+  EXPECT_EQ(s.view.detailGrid[10][0], " XLt");
   EXPECT_EQ(s.view.detailGrid[10][1], "");
   EXPECT_EQ(s.view.detailGrid[11][1], "1.000");
   Fire(s, "ch_vipp", "1");
+  Fire(s, "vipping.Curve2");  // the general case of 6.3.2.2: XLt is not computed either
+  BuildDetailTable(s);
+  EXPECT_EQ(s.view.detailGrid[10][1], "");
+  EXPECT_NE(s.view.detailGrid[11][1], "");  // XLtmod, the factor in use
   Fire(s, "mnup10");
   ASSERT_EQ(s.project.ProfileType, 10);
   BuildDetailTable(s);
