@@ -7,6 +7,7 @@
 #include "core/format.h"
 #include "core/pipeline.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -82,6 +83,8 @@ void ShowControls(State& s) {
   SummaryLine loadcase;
   loadcase.left = "Governing Loadcase:";
   loadcase.note = GoverningLoadcaseText(s);
+  // The standard's own rules in place of the program's method are named on the first line.
+  if (StrictRules(s)) loadcase.note += "   [Rules: " + RulesName(s) + "]";
   out.push_back(loadcase);
   out.push_back(Title("SECTION CONTROL:", p.ChPointMode > 0 ? CheckPointNote(s) : std::string()));
   for (size_t g = 1; g <= 3; ++g) {
