@@ -50,5 +50,27 @@ TEST(StrictRules, AClassThreeSectionUnderItsOwnForcesTakesTheElasticResistance) 
   EXPECT_NEAR(s.section.MyRdBuck, 613.25, 0.01);
 }
 
+// The same UB 457x191x98 S275, 5 m, under N = 1270 kN and q = 10 kN/m (My = 31.25 kNm). Table 5.2:
+// alfa = 0.5 (1 + NEd/(c tw fy)) with c = d = 407.6 mm; the program's own method takes hw = 428.0 mm.
+//   as specified: 1270E3/(428.0 * 11.4 * 275) = 0.94649, alfa = 0.97325,
+//                 456 eps/(13 alfa - 1) = 421.527/11.6522 = 36.176 >= 35.754: web class 2
+//   strict:       1270E3/(407.6 * 11.4 * 275) = 0.99390, alfa = 0.99695,
+//                 421.527/11.9603 = 35.244 < 35.754; psi = -86.97/-116.23 = 0.7483,
+//                 42 eps/(0.67 + 0.33 psi) = 42.35 >= 35.754: web class 3
+// Class 2 takes MN,y,Rd = 613.25 (1 - 0.36945)/(1 - 0.5 * 0.39538) = 481.96 kNm (n = 1270/3437.5,
+// a = (12500 - 2 * 192.8 * 19.6)/12500): IR = 31.25/481.96 = 0.0648 -> "0.06". Class 3 takes the
+// elastic check: 1270/3437.5 + 31.25/539.0 = 0.36945 + 0.05798 = 0.42743 -> "0.43".
+TEST(StrictRules, TheWebsAlfaOfTheClassificationComesFromTheDepthBetweenTheFillets) {
+  State s = test::Member("mnuu", "p101", 42, "5", "1270", "10");
+  Do(s, "cbofyk", "2");
+  EXPECT_EQ(s.checks.secText[2].Formula, "IR = My,Ed/MN,y,Rd = ");
+  EXPECT_EQ(s.checks.secText[2].Numbers, "31.3/482.0 = ");
+  EXPECT_EQ(s.checks.secText[2].Ratio, "0.06");
+  Do(s, "setup.strict", "1");
+  EXPECT_EQ(s.checks.secText[2].Formula, "IR = NEd/NRd+My,Ed/My,Rd = ");
+  EXPECT_EQ(s.checks.secText[2].Numbers, "1270.0/3437.5+31.3/539.0 = ");
+  EXPECT_EQ(s.checks.secText[2].Ratio, "0.43");
+}
+
 }  // namespace
 }  // namespace vn
