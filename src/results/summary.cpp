@@ -61,6 +61,15 @@ std::string GoverningLoadcaseText(const State& s) {
   auto en1990 = [&](const std::string& uls) {
     return "EN1990 " + uls + " " + (sls ? " / EN1990 " + c.textSLS : std::string());
   };
+  if (s.analysis.permanentFavourable != 0 && p.LoadCombMode >= 0 && p.LoadCombMode <= 3) {
+    // The strict rules found the permanent load favourable: gamma G,inf = 1.0 in place of its factor.
+    const std::string& uls = p.LoadCombMode == 0                 ? c.text610
+                             : p.LoadCombMode == 1               ? c.text610a
+                             : p.LoadCombMode == 2               ? c.text610b
+                             : s.analysis.GoverningEquation == 1 ? c.text610a
+                                                                 : c.text610b;
+    return en1990(uls + "  (G favourable: gamma G,inf = 1.0)");
+  }
   switch (p.LoadCombMode) {
     case 0: return en1990(c.text610);
     case 1: return en1990(c.text610a);

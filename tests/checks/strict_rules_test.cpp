@@ -72,5 +72,26 @@ TEST(StrictRules, TheWebsAlfaOfTheClassificationComesFromTheDepthBetweenTheFille
   EXPECT_EQ(s.checks.secText[2].Ratio, "0.43");
 }
 
+// A roof beam under wind uplift: IPE 300 S355, 6 m, G = 2 kN/m down, Q1 = -6 kN/m (uplift), Eq 6.10.
+//   as specified: 1.35 * 2 + 1.5 * (-6) = -6.3 kN/m, My = -6.3 * 6^2/8 = -28.35 kNm
+//   strict (EN 1990 Table A1.2(B), G favourable: gamma G,inf = 1.0): 2 - 9 = -7 kN/m, My = -31.5 kNm;
+//   the larger effect governs.
+TEST(StrictRules, AFavourablePermanentLoadTakesGammaGInfAndTheLargerEffectGoverns) {
+  State s = test::Ipe300("6", "0", "2");
+  Do(s, "CboLoadComb", "0");
+  Do(s, "Loading.ch_q(2)", "1");
+  Do(s, "Loading.iq_gq(2)", "1");
+  Do(s, "Loading.iq(2)", "-6");
+  EXPECT_NEAR(s.analysis.MyGov, -28.35, 0.01);
+  EXPECT_EQ(s.analysis.permanentFavourable, False);
+  Do(s, "setup.strict", "1");
+  EXPECT_NEAR(s.analysis.MyGov, -31.5, 0.01);
+  EXPECT_EQ(s.analysis.permanentFavourable, True);
+  // A load case where G acts with Q keeps gamma G,sup: 1.35 * 2 + 1.5 * 6 = 11.7 kN/m, 52.65 kNm.
+  Do(s, "Loading.iq(2)", "6");
+  EXPECT_NEAR(s.analysis.MyGov, 52.65, 0.01);
+  EXPECT_EQ(s.analysis.permanentFavourable, False);
+}
+
 }  // namespace
 }  // namespace vn
