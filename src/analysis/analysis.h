@@ -86,6 +86,9 @@ struct Analysis {
   Single MyGov = 0, MzGov = 0;
   // Eq 6.10a/b: 1 when 6.10a governs, 2 when 6.10b.
   Integer GoverningEquation = 0;
+  // Under the strict rules: the permanent load is favourable in the governing combination and takes
+  // gamma G,inf = 1.0 (EN 1990 Table A1.2(B)).
+  Boolean permanentFavourable = False;
 
   // Deflection control of the summary.
   ControlText deflTextZ, deflTextY;

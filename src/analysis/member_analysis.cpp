@@ -3,10 +3,13 @@
 #include "analysis/member_analysis.h"
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "analysis/analysis.h"
 #include "core/pipeline.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -61,6 +64,10 @@ Factors FactorsOf(const State& s, CombForm form) {
     case CombForm::BasicLoads: f.basic = true; break;
     case CombForm::None: f.S[0] = f.S[1] = f.S[2] = 0; break;
   }
+  // A favourable permanent load takes gamma G,inf = 1.0 in Eq 6.10, 6.10a and 6.10b, with neither
+  // K_FI nor xi, which belong to the unfavourable side (EN 1990 Table A1.2(B)).
+  const bool en1990 = form == CombForm::Eq610 || form == CombForm::Eq610a || form == CombForm::Eq610b;
+  if (en1990 && s.analysis.permanentFavourable != 0) f.F[0] = 1.0;
   return f;
 }
 
@@ -101,6 +108,43 @@ bool TryEquation(State& s, CombForm form, double& ratio) {
   RunControlsOnce(s);
   if (s.project.calcError == -1) return false;
   ratio = std::max(an.IRsection, an.IRbuckling);
+  return true;
+}
+
+// The strict rules of EN 1990 Table A1.2(B): each equation of the mode runs with the permanent load
+// unfavourable (gamma G,sup) and favourable (gamma G,inf = 1.0), and the combination with the
+// larger of the governing ratios governs. The program's own method takes gamma G,sup alone, which
+// under an uplift (wind on a light roof) relieves the member by more than the permanent load can.
+// On a tie the unfavourable side, and of Eq 6.10a/b the 6.10b, keep their place as in the default.
+bool StrictGoverningCombination(State& s) {
+  Analysis& an = s.analysis;
+  const int mode = s.project.LoadCombMode;
+  std::vector<std::pair<CombForm, int>> forms;
+  if (mode == 3)
+    forms = {{CombForm::Eq610a, 1}, {CombForm::Eq610b, 2}};
+  else
+    forms = {{mode == 0 ? CombForm::Eq610 : mode == 1 ? CombForm::Eq610a : CombForm::Eq610b, 0}};
+  double best = -1;
+  CombForm bestForm = forms.front().first;
+  int bestEquation = 0;
+  bool bestFavourable = false;
+  for (bool favourable : {false, true}) {
+    for (const auto& [form, equation] : forms) {
+      an.permanentFavourable = ToBoolean(favourable);
+      double r = 0;
+      if (!TryEquation(s, form, r)) return false;
+      const bool wins = favourable ? r > best : (equation == 2 ? r >= best : r > best);
+      if (wins) {
+        best = r;
+        bestForm = form;
+        bestEquation = equation;
+        bestFavourable = favourable;
+      }
+    }
+  }
+  an.permanentFavourable = ToBoolean(bestFavourable);
+  if (mode == 3) an.GoverningEquation = static_cast<Integer>(bestEquation);
+  CombineLoads(s, bestForm);
   return true;
 }
 
@@ -261,28 +305,32 @@ void MemberAnalysis(State& s) {
   SetSelfweightSlot(s);
   SolveAllSlots(s);
 
-  switch (p.LoadCombMode) {
-    case 0: CombineLoads(s, CombForm::Eq610); break;
-    case 1: CombineLoads(s, CombForm::Eq610a); break;
-    case 2: CombineLoads(s, CombForm::Eq610b); break;
-    case 3: {
-      // Both equations run through the controls; the higher utilisation governs, 6.10b on a tie.
-      double A = 0, B = 0;
-      if (!TryEquation(s, CombForm::Eq610a, A)) return;
-      if (!TryEquation(s, CombForm::Eq610b, B)) return;
-      if (A > B) {
-        an.GoverningEquation = 1;
-        CombineLoads(s, CombForm::Eq610a);
-      } else {
-        an.GoverningEquation = 2;
-        CombineLoads(s, CombForm::Eq610b);
+  an.permanentFavourable = False;
+  if (StrictRules(s) && p.LoadCombMode >= 0 && p.LoadCombMode <= 3) {
+    if (!StrictGoverningCombination(s)) return;
+  } else
+    switch (p.LoadCombMode) {
+      case 0: CombineLoads(s, CombForm::Eq610); break;
+      case 1: CombineLoads(s, CombForm::Eq610a); break;
+      case 2: CombineLoads(s, CombForm::Eq610b); break;
+      case 3: {
+        // Both equations run through the controls; the higher utilisation governs, 6.10b on a tie.
+        double A = 0, B = 0;
+        if (!TryEquation(s, CombForm::Eq610a, A)) return;
+        if (!TryEquation(s, CombForm::Eq610b, B)) return;
+        if (A > B) {
+          an.GoverningEquation = 1;
+          CombineLoads(s, CombForm::Eq610a);
+        } else {
+          an.GoverningEquation = 2;
+          CombineLoads(s, CombForm::Eq610b);
+        }
+        break;
       }
-      break;
+      case 4: CombineLoads(s, CombForm::UserFactors); break;
+      case 5: CombineLoads(s, CombForm::BasicLoads); break;
+      default: CombineLoads(s, CombForm::None); break;  // no such combination: nothing acts
     }
-    case 4: CombineLoads(s, CombForm::UserFactors); break;
-    case 5: CombineLoads(s, CombForm::BasicLoads); break;
-    default: CombineLoads(s, CombForm::None); break;  // no such combination: nothing acts
-  }
 
   ForceExtremes(s);
   DeflectionText(s);

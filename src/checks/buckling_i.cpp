@@ -18,6 +18,8 @@
 #include "checks/control_text.h"
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
+#include "sections/rolled_i.h"
 
 namespace vn {
 
@@ -157,7 +159,43 @@ void StrutLines(State& s, bool yLine, bool zLine, const char* ratioPrefix, doubl
   if (zLine) IRz = line(k.buckTextZ, "IR = NEd/Nb,z,Rd ", k.NbzRd, k.colBuckZ);
 }
 
-void BucklingControlI(State& s) { RunBucklingControl(s, kBucklingStyleI); }
+void BucklingControlI(State& s) {
+  // Under the strict rules a section that is class 3 (or 4) under its own N and My, though of a
+  // lower class in pure bending, has the elastic (or effective) My,Rd in the terms of 6.61 and 6.62,
+  // in lamda,LT and in the choice of the interaction factors (6.2.1 (7), 6.2.9.2, 6.3.3 (1)). The
+  // program's own method keeps the class of pure bending. The section record is put back after.
+  Section& c = s.section;
+  const Analysis& an = s.analysis;
+  const int type = s.project.ProfileType;
+  const bool classified =
+      (type >= 1 && type <= 5) || type == 15 || type == 16 || type == 21 || (type >= 101 && type <= 103);
+  if (!StrictRules(s) || !classified || !(an.NEd > 0) || an.MyGov == 0) {
+    RunBucklingControl(s, kBucklingStyleI);
+    return;
+  }
+  const Section kept = c;
+  const double pair = ClassAboutY(s, an.NEd, an.MyGov);
+  c.classWeb = kept.classWeb;  // the classification leaves its parts; the shown ones stay
+  c.classFlange = kept.classFlange;
+  if (pair > c.classMy && pair >= 3) {
+    c.classMy = pair;
+    if (pair >= 4) {
+      c.Wy = ToSingle(c.Weffy);
+      c.MyRdClass = c.MeffyRd;
+    } else {
+      c.Wy = c.Wely;
+      c.MyRdClass = c.MelyRd;
+    }
+    c.MyRdBuck = Div(c.MyRdClass * s.project.gammaM0, s.project.gammaM1);
+  }
+  try {
+    RunBucklingControl(s, kBucklingStyleI);
+  } catch (...) {
+    c = kept;
+    throw;
+  }
+  c = kept;
+}
 
 void BucklingControlSingleSym(State& s) { RunBucklingControl(s, kBucklingStyleSingleSym); }
 

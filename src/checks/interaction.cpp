@@ -10,12 +10,15 @@
 //    at k = 0.5 to 1 at k = 1, not the real moment shape;
 //  - npl divides by NcRd, with gammaM0;
 //  - when nothing acts in one plane, Method 2 reads that plane's shape flags from the other one;
-//  - in end force mode a low Cmz (below 0.4) puts 0.4 into Cmy and keeps its own low value.
+//  - in end force mode a low Cmz (below 0.4) puts 0.4 into Cmy and keeps its own low value;
+//  - CmLT of Method 1 reads Ncr,TF where Table A.1 has Ncr,T.
+// The strict rules (StrictRules) replace those of them that the standard settles otherwise.
 #include <algorithm>
 #include <cmath>
 
 #include "checks/buckling.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -131,7 +134,9 @@ void FactorsMethod1(State& s) {
 
   // Beyond a critical load the amplification has no meaning: the run ends in the message.
   // A tension passes.
-  if (NEd > k.NcrTF || NEd > k.Ncry || NEd > k.Ncrz) {
+  // Under the strict rules CmLT reads Ncr,T (Annex A, Table A.1), and passing it ends the run too.
+  const bool strict = StrictRules(s);
+  if (NEd > k.NcrTF || NEd > k.Ncry || NEd > k.Ncrz || (strict && NEd > k.NcrT)) {
     p.calcError = -1;
     return;
   }
@@ -145,7 +150,11 @@ void FactorsMethod1(State& s) {
     const double r = Sqrt(k.ey) * k.aLt;
     k.Cmy = k.Cmy0 + (1 - k.Cmy0) * Div(r, 1 + r);
     k.Cmz = k.Cmz0;
-    k.CmLt = Div(k.Cmy * k.Cmy * k.aLt, Sqrt(nz * nTF));
+    // CmLT = Cmy^2 aLT / sqrt((1 - NEd/Ncr,z)(1 - NEd/Ncr,T)) in Table A.1. The program's own method
+    // reads Ncr,TF, which a double symmetric section doesn't have (1E+25), so that its CmLT comes
+    // out low; the strict rules take the torsional critical force Ncr,T.
+    const double nT = strict ? 1 - Div(NEd, k.NcrT) : nTF;
+    k.CmLt = Div(k.Cmy * k.Cmy * k.aLt, Sqrt(nz * nT));
     if (k.CmLt < 1) k.CmLt = 1;
   }
 

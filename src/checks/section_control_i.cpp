@@ -12,9 +12,12 @@
 //  - alfa = 2 and beta = 5n (not below 1) for every section of the family, channels included;
 //  - shear enters MN,y,Rd only by way of MyRd;
 //  - a class 3 or 4 section takes the linear sum with the elastic or effective resistance in place
-//    of the stress check of 6.2.1 (7).
+//    of the stress check of 6.2.1 (7);
+//  - the linear sum of steps e and g takes the moment resistance of the class of pure bending, also
+//    where the pair makes the section class 3 (the strict rules take the pair's class there).
 #include "checks/section_control_i.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "checks/control_framework.h"
@@ -23,6 +26,7 @@
 #include "checks/shear_resistance.h"
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 #include "sections/rolled_i.h"
 
 namespace vn {
@@ -36,6 +40,16 @@ using text::Write;
 namespace {
 
 bool On(Boolean flag) { return flag != 0; }
+
+// The class whose moment resistance enters the linear sum N/NRd + M/MRd. The program's own method
+// takes the class of pure bending, so that a section of class 1 in bending that is class 3 under its
+// own N and M is summed with its plastic moment. Under the strict rules a section of class 3 under
+// the pair takes the elastic resistance (6.2.1 (7), 6.2.9.2: the sum is then the stress check
+// N/A + M/Wel <= fy/gammaM0), and one of class 4 the effective one: the larger class of the two.
+double StrictClassOfPair(const State& s, double classBending, double classPair) {
+  if (!StrictRules(s)) return classBending;
+  return std::max(classBending, classPair);
+}
 
 }  // namespace
 
@@ -290,6 +304,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
     // e. N and My.
     if (NEd != 0 && MyEd != 0) {
       k.classCur = rules.classY(s, NEd, MySigned);
+      const double classPair = k.classCur;
       rules.myRd(s);
       if (k.classCur <= 2 && !conser) {
         rules.mnyRd(s);
@@ -301,7 +316,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
       } else {
         // The resistance of the class of pure bending; with signed moments that of the pair stays.
         if (!rules.signedMy) {
-          k.classCur = classMy;
+          k.classCur = StrictClassOfPair(s, classMy, classPair);
           rules.myRd(s);
         }
         const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd);
@@ -354,7 +369,7 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
                 ir, PointLimit(s, x, "L; Ch 6.2.9)"));
       } else {
         if (!rules.signedMy) {
-          k.classCur = classMy;
+          k.classCur = StrictClassOfPair(s, classMy, k.classNMy);
           rules.myRd(s);
         }
         k.classCur = c.classMz;

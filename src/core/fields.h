@@ -227,6 +227,7 @@ void VisitProject(V& v, P& p) {
   VN_F(p, conserControl);
   VN_F(p, noFlangeBuckling);
   VN_F(p, noWebBuckling);
+  VN_F(p, strictRules);
   VN_F(p, safetyClass);
   VN_F(p, psiQ1Index);
   VN_F(p, psiQ2Index);

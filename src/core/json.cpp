@@ -8,6 +8,7 @@
 
 #include "core/fields.h"
 #include "core/format.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -201,6 +202,8 @@ class FieldSetter {
 std::string StateToJson(const State& s) {
   JsonWriter w;
   w.Open('{');
+  // The rules in force by name, beside the flag strictRules of the project.
+  w("Rules", RulesName(s));
   w.Object("Project", [&] { VisitProject(w, s.project); });
   w.Object("Loads", [&] { VisitLoads(w, s.loads); });
   w.Object("Section", [&] { VisitSection(w, s.section); });

@@ -180,6 +180,9 @@ struct Project {
   Boolean conserControl = False;
   Boolean noFlangeBuckling = False;
   Boolean noWebBuckling = False;
+  // The rules in force: False "as specified" (the program's own method, the default), True "EN 1993
+  // strict" (the standard's own rules where the two differ, see the help page "Departures").
+  Boolean strictRules = False;
   Integer safetyClass = 0;
   Integer psiQ1Index = 0, psiQ2Index = 0;
   Single psiQ1 = 0, psiQ2 = 0;

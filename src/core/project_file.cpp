@@ -452,6 +452,10 @@ std::string ProjectFileText(State& s) {
   WriteIO io;
   io.Int(static_cast<Integer>(kProjectVersion));
   WalkProject(io, s, kProjectVersion);
+  // The rules follow the last value of the format, and only when they are not the default: a
+  // reader that stops at the last value never sees them, and a project in the default rules is
+  // written exactly as before.
+  if (s.project.strictRules != 0) io.Str(kStrictRulesMark);
   return io.w.Text();
 }
 
@@ -467,6 +471,14 @@ FileResult ReadProject(State& s, const std::string& path) {
     Integer version = 0;
     io.Int(version);
     WalkProject(io, s, version);
+    // A file without the mark, or with anything else there, is in the default rules.
+    s.project.strictRules = False;
+    try {
+      bool quoted = false;
+      const std::string mark = reader.Token(&quoted);
+      if (quoted && mark == kStrictRulesMark) s.project.strictRules = True;
+    } catch (const PastEndError&) {
+    }
   } catch (const PastEndError&) {
     return FileResult::PastEnd;
   } catch (const MismatchError&) {

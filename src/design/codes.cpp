@@ -94,3 +94,11 @@ void BuildCaption(State& s) {
 }
 
 }  // namespace vn
+
+namespace vn {
+
+std::string RulesName(const State& s) { return StrictRules(s) ? kStrictRulesMark : "as specified"; }
+
+bool StrictRules(const State& s) { return s.project.strictRules != 0; }
+
+}  // namespace vn

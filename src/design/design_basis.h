@@ -27,6 +27,15 @@ std::string CodeIdFromIndex(int codeIndex);
 std::string CodeDisplayName(int codeIndex);
 std::string CodeTitleSuffix(int codeIndex);
 
+// ---- The rules in force (codes.cpp) ----
+
+// The mark of the strict rules as the setup and project files keep it after their last value.
+inline constexpr const char* kStrictRulesMark = "EN 1993 strict";
+// The name of the rules in force: "as specified" or "EN 1993 strict".
+std::string RulesName(const State& s);
+// True where the standard's own rules replace the program's departures from them.
+bool StrictRules(const State& s);
+
 // The main form's caption: "Varnelt EC3" + title suffix + ": " + fileName.
 void BuildCaption(State& s);
 

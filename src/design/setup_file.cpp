@@ -160,15 +160,21 @@ void ReadSetupFile(State& s) {
     SetupValues f(all.str());
     Project& p = s.project;
     Integer version = 0;  // read and ignored
-    (void)(f.Integer_(version) && f.String_(p.codeId) && f.Double_(p.gammaM0) && f.Single_(p.gammaM1) &&
-           f.Single_(p.neta) && f.Integer_(p.interactionMethod) && f.Single_(p.lamdaLT0) &&
-           f.Double_(p.beta) && f.Single_(p.lamdaLT0w) && f.Double_(p.betaw) && f.Integer_(p.steelGrade) &&
-           f.Single_(p.fyk) && f.Single_(p.E) && f.Single_(p.uflimit) && f.Boolean_(p.elasticClass12) &&
-           f.Boolean_(p.conserControl) && f.Boolean_(p.noFlangeBuckling) && f.Boolean_(p.noWebBuckling) &&
-           f.Integer_(p.LoadCombMode) && f.Integer_(p.deflectionLimit) && f.Integer_(p.safetyClass) &&
-           f.Integer_(p.psiQ1Index) && f.Integer_(p.psiQ2Index) && f.Single_(p.LfULS_G) &&
-           f.Single_(p.LfULS_Q1) && f.Single_(p.LfULS_Q2) && f.Single_(p.LfSLS_G) && f.Single_(p.LfSLS_Q1) &&
-           f.Single_(p.LfSLS_Q2));
+    // A file of an older version has no rules at its end and is in the default rules, and so is
+    // one whose value there is anything but the mark of the strict rules.
+    p.strictRules = False;
+    std::string rules;
+    const bool complete =
+        (f.Integer_(version) && f.String_(p.codeId) && f.Double_(p.gammaM0) && f.Single_(p.gammaM1) &&
+         f.Single_(p.neta) && f.Integer_(p.interactionMethod) && f.Single_(p.lamdaLT0) && f.Double_(p.beta) &&
+         f.Single_(p.lamdaLT0w) && f.Double_(p.betaw) && f.Integer_(p.steelGrade) && f.Single_(p.fyk) &&
+         f.Single_(p.E) && f.Single_(p.uflimit) && f.Boolean_(p.elasticClass12) &&
+         f.Boolean_(p.conserControl) && f.Boolean_(p.noFlangeBuckling) && f.Boolean_(p.noWebBuckling) &&
+         f.Integer_(p.LoadCombMode) && f.Integer_(p.deflectionLimit) && f.Integer_(p.safetyClass) &&
+         f.Integer_(p.psiQ1Index) && f.Integer_(p.psiQ2Index) && f.Single_(p.LfULS_G) &&
+         f.Single_(p.LfULS_Q1) && f.Single_(p.LfULS_Q2) && f.Single_(p.LfSLS_G) && f.Single_(p.LfSLS_Q1) &&
+         f.Single_(p.LfSLS_Q2));
+    if (complete && f.String_(rules) && rules == kStrictRulesMark) p.strictRules = True;
   } catch (const std::exception&) {
     // A setup file that can't be read gives no message.
   }
@@ -209,6 +215,9 @@ void WriteSetupFile(State& s) {
     line(FloatFileText(p.LfSLS_G));
     line(FloatFileText(p.LfSLS_Q1));
     line(FloatFileText(p.LfSLS_Q2));
+    // Appended after the last value, and only for the strict rules: a reader of the older version
+    // stops before it, and a setup in the default rules is written exactly as before.
+    if (p.strictRules != 0) line(Quoted(kStrictRulesMark));
     std::ofstream file(SetupPath(s), std::ios::binary | std::ios::trunc);
     if (!file) return;  // a folder without write access: nothing is said
     file << out.str();

@@ -121,6 +121,19 @@ void OnClassChoice(State& s, const std::string& option, int safetyClass) {
   Recalculate(s);
 }
 
+void ShowRules(State& s) {
+  const bool strict = s.project.strictRules != 0;
+  s.view.value["setup.strict"] = strict ? 1 : 0;
+  s.view.value["setup.rbtnRulesSpecified"] = strict ? 0 : 1;
+  s.view.value["setup.rbtnRulesStrict"] = strict ? 1 : 0;
+}
+
+void SetRules(State& s, bool strict) {
+  s.project.strictRules = ToBoolean(strict);
+  ShowRules(s);
+  Recalculate(s);
+}
+
 void Activate(State& s) {
   Project& p = s.project;
   View& v = s.view;
@@ -145,6 +158,7 @@ void Activate(State& s) {
   v.value["setup.CheckElastic"] = p.elasticClass12 != 0 ? 1 : 0;
   v.value["setup.CheckFlangebuck"] = p.noFlangeBuckling != 0 ? 1 : 0;
   v.value["setup.CheckWebbuck"] = p.noWebBuckling != 0 ? 1 : 0;
+  ShowRules(s);
   v.visible["setup.frULS"] = p.LoadCombMode == 4;
   v.text["setup.iLfULS_G"] = F(p.LfULS_G, "#0.00");
   v.text["setup.iLfULS_Q1"] = F(p.LfULS_Q1, "#0.00");
@@ -333,6 +347,20 @@ void RegisterSetupControls(ControlTable& t) {
       Recalculate(s);
       return EventResult{};
     });
+  }
+
+  // The rules in force: the check box `strict` (1 "EN 1993 strict", 0 "as specified") and its two
+  // options on the dialog. Any other text than 1 is read as the default rules.
+  AddControl(t, kForm, "strict", [](State& s, int, std::string_view text) {
+    SetRules(s, ChoiceIndex(text) == 1);
+    return EventResult{};
+  });
+  for (bool strict : {false, true}) {
+    AddControl(t, kForm, strict ? "rbtnRulesStrict" : "rbtnRulesSpecified",
+               [strict](State& s, int, std::string_view) {
+                 SetRules(s, strict);
+                 return EventResult{};
+               });
   }
 
   // The main form's menu entry opens the dialog, filled from the record.

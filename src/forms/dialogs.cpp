@@ -259,6 +259,12 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   c4->addWidget(Check(d, "CheckFlangebuck", "Flange buckling not taken into account"));
   c4->addWidget(Check(d, "CheckWebbuck", "Web buckling not taken into account"));
   ol->addWidget(class4);
+  auto* rules = Group("Rules");
+  auto* rl = Inside<QVBoxLayout>(rules);
+  rl->addWidget(Option(d, "rbtnRulesSpecified", "as specified"));
+  rl->addWidget(Option(d, "rbtnRulesStrict", "EN 1993 strict"));
+  rl->addWidget(Note(" See the help page Departures "));
+  ol->addWidget(rules);
   ol->addStretch();
 
   auto* right = new QVBoxLayout;

@@ -12,6 +12,7 @@
 #include "core/format.h"
 #include "core/pipeline.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 #include "results/summary.h"
 #include "sections/section_dialogs.h"
 
@@ -131,6 +132,8 @@ void Material(Page& pg, ReportKind kind) {
     pg.Row("gm0", pg.F(p.gammaM0, "#.00"));
   else
     pg.Row("gm0/gm1 =", pg.F(p.gammaM0, "#.00") + "/" + pg.F(p.gammaM1, "#.00"));
+  // The standard's own rules in place of the program's method are named; the default has no line.
+  if (StrictRules(s)) pg.Row("Rules: ", RulesName(s));
 }
 
 // The notes of the design options that change a resistance.

@@ -7,6 +7,7 @@
 #include "core/format.h"
 #include "core/pipeline.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -60,6 +61,15 @@ std::string GoverningLoadcaseText(const State& s) {
   auto en1990 = [&](const std::string& uls) {
     return "EN1990 " + uls + " " + (sls ? " / EN1990 " + c.textSLS : std::string());
   };
+  if (s.analysis.permanentFavourable != 0 && p.LoadCombMode >= 0 && p.LoadCombMode <= 3) {
+    // The strict rules found the permanent load favourable: gamma G,inf = 1.0 in place of its factor.
+    const std::string& uls = p.LoadCombMode == 0                 ? c.text610
+                             : p.LoadCombMode == 1               ? c.text610a
+                             : p.LoadCombMode == 2               ? c.text610b
+                             : s.analysis.GoverningEquation == 1 ? c.text610a
+                                                                 : c.text610b;
+    return en1990(uls + "  (G favourable: gamma G,inf = 1.0)");
+  }
   switch (p.LoadCombMode) {
     case 0: return en1990(c.text610);
     case 1: return en1990(c.text610a);
@@ -82,6 +92,8 @@ void ShowControls(State& s) {
   SummaryLine loadcase;
   loadcase.left = "Governing Loadcase:";
   loadcase.note = GoverningLoadcaseText(s);
+  // The standard's own rules in place of the program's method are named on the first line.
+  if (StrictRules(s)) loadcase.note += "   [Rules: " + RulesName(s) + "]";
   out.push_back(loadcase);
   out.push_back(Title("SECTION CONTROL:", p.ChPointMode > 0 ? CheckPointNote(s) : std::string()));
   for (size_t g = 1; g <= 3; ++g) {

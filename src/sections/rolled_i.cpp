@@ -9,6 +9,7 @@
 
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 #include "sections/section_dialogs.h"
 
 namespace vn {
@@ -359,9 +360,12 @@ double ClassAboutY(State& s, double N, double M) {
     return 1;
   }
 
+  // The web's share alfa of Table 5.2 divides N by c tw fy, c the web's depth between the fillets (d
+  // here). The program's own method takes hw, the depth between the flanges, which gives a smaller
+  // alfa and so a web of a lower class than the standard's; the strict rules take d.
+  const double webDepth = StrictRules(s) ? static_cast<double>(c.d) : static_cast<double>(c.hw);
   c.classWeb = WebClassUnder(
-      s, N, M, [&] { return ToSingle(Div(c.d, c.tw)); }, static_cast<double>(c.hw) * c.tw, sigma1, sigma2,
-      c.classWeb);
+      s, N, M, [&] { return ToSingle(Div(c.d, c.tw)); }, webDepth * c.tw, sigma1, sigma2, c.classWeb);
   // N = 0 and M = 0 leaves the web class of the last classification.
 
   if (sigma2 >= 0)

@@ -116,6 +116,30 @@ TEST(BeamColumn, MethodOneAgreesWithTheHandCalculation) {
   EXPECT_TRUE(Near(s.analysis.IRbuckling, 0.4804250, kChain));
 }
 
+// The strict rules: CmLT of Table A.1 takes Ncr,T, the torsional critical force, in place of Ncr,TF
+// (1E+25 for the double symmetric HEB). LT = 4 m, i0^2 = (56.96E6 + 20.03E6)/7808 = 9860.400 mm2,
+//   Ncr,T = (pi^2 * 210000 * 171.1E9 / 4000^2 + 80769.23 * 592.8E3) / 9860.400 / 1000 = 7103.571 kN
+//   CmLT = 1.0009983^2 * 0.9895927 / sqrt(0.807297 * (1 - 500/7103.571)) = 1.1446049
+//   kyy = 1.1978861 * 1.1446049/1.1035873 = 1.2424086; kzy = 0.6458341 * 1.0371676 = 0.6698382
+//   IR,y = 0.21720 + 1.2424086 * 0.207480 = 0.47497 -> "0.47"
+//   IR,z = 0.34643 + 0.6698382 * 0.207480 = 0.48541 -> "0.49" (0.48 by the program's own method)
+TEST(StrictRules, MethodOneCmLTTakesTheTorsionalCriticalForce) {
+  State s = BeamColumn(1);
+  Do(s, "setup.strict", "1");
+  const Checks& k = s.checks;
+  EXPECT_TRUE(Near(k.NcrT, 7103.571, kChain));
+  EXPECT_TRUE(Near(k.CmLt, 1.1446049, kChain));
+  EXPECT_TRUE(Near(k.kyy, 1.2424086, kChain));
+  EXPECT_TRUE(Near(k.kzy, 0.6698382, kChain));
+  EXPECT_EQ(k.buckTextY.Numbers, "500.0/2302.1+1.24*40.0/(0.85*228.1)");
+  EXPECT_EQ(k.buckTextZ.Numbers, "500.0/1443.3+0.67*40.0/(0.85*228.1)");
+  EXPECT_EQ(k.buckTextZ.Ratio, "0.49");
+  // And back: the program's own method gives its own numbers again.
+  Do(s, "setup.rbtnRulesSpecified");
+  EXPECT_TRUE(Near(s.checks.CmLt, 1.1035873, kChain));
+  EXPECT_EQ(s.checks.buckTextZ.Ratio, "0.48");
+}
+
 // Method 2:
 //   Cmy = 0.95 + 0.05 * 0 = 0.95 (q-load, the middle dominates, alpha,h = 0); CmLT = Cmy;
 //   Cmz = 0.95: nothing acts about z, so z reads the shape flags of y.

@@ -217,6 +217,30 @@ TEST_F(ProjectFile, TheTextHasTheVersionAndRawLinesAtItsHead) {
   EXPECT_NE(text.find("\r\n#TRUE#\r\n"), std::string::npos);
 }
 
+// The strict rules follow the last value of the format; a project in the default rules is written
+// as before, and a file without the mark, or with a damaged one, reads as the default rules.
+TEST_F(ProjectFile, TheStrictRulesFollowTheLastValueAndAnythingElseReadsAsTheDefault) {
+  const std::string plain = ProjectFileText(s_);
+  s_.project.strictRules = True;
+  const std::string strict = ProjectFileText(s_);
+  EXPECT_EQ(strict, plain + "\"EN 1993 strict\"\r\n");
+  const struct {
+    const char* text;
+    Boolean expected;
+  } files[] = {{"\"EN 1993 strict\"\r\n", True},
+               {"", False},
+               {"\"EN 1993 strct\"\r\n", False},
+               {"#TRUE#\r\n", False},
+               {"\r\n\r\n", False}};
+  for (const auto& f : files) {
+    folder_.Write("r.vnt", plain + f.text);
+    State t = Fresh();
+    t.project.strictRules = f.expected == True ? False : True;  // the file decides, not the record
+    ASSERT_EQ(ReadProject(t, Path("r.vnt")), FileResult::Ok) << f.text;
+    EXPECT_EQ(t.project.strictRules, f.expected) << f.text;
+  }
+}
+
 TEST_F(ProjectFile, Version118AddsOneToTheCombinationMode) {
   s_.project.LoadCombMode = 0;
   std::string text = ProjectFileText(s_);

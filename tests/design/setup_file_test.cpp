@@ -89,6 +89,44 @@ TEST(SetupFileWrite, TwentyNineLinesInThePortableForm) {
   EXPECT_EQ(s.project.codeId, "DK");
 }
 
+// The strict rules are kept as a thirtieth line, written only for them: a reader of the older
+// version stops after line 29, and a setup in the default rules is the same file as before. A
+// file without the line, or with anything else on it, reads as the default rules, with no message.
+TEST(SetupFileRules, TheStrictRulesAreAThirtiethLineAndAnythingElseIsTheDefault) {
+  TempFolder dir;
+  State s;
+  s.appPath = dir.Path();
+  Settings(s.project);
+  s.project.strictRules = True;
+  WriteSetupFile(s);
+  EXPECT_EQ(dir.Read(kSetupFile), std::string(kSettingsFile) + "\"EN 1993 strict\"\n");
+  const struct {
+    const char* tail;
+    Boolean expected;
+  } files[] = {{"\"EN 1993 strict\"\n", True},
+               {"", False},
+               {"\"en 1993 strict\"\n", False},
+               {"#TRUE#\n", False},
+               {"1\n", False},
+               {"\"EN 1993 strict", True}};
+  for (const auto& f : files) {
+    dir.Write(kSetupFile, std::string(kSettingsFile) + f.tail);
+    State in;
+    in.appPath = dir.Path();
+    in.project.strictRules = f.expected == True ? False : True;
+    ReadSetupFile(in);
+    EXPECT_EQ(in.project.strictRules, f.expected) << f.tail;
+    EXPECT_EQ(in.project.LfSLS_Q2, 0.7f) << f.tail;  // the 29 values before it are read as ever
+  }
+  // A file cut short before its end has no rules either.
+  dir.Write(kSetupFile, "120\n\"DK\"\n");
+  State cut;
+  cut.appPath = dir.Path();
+  cut.project.strictRules = True;
+  ReadSetupFile(cut);
+  EXPECT_EQ(cut.project.strictRules, False);
+}
+
 TEST(SetupFileWrite, UnwritableFolderIsSilent) {
   TempFolder dir;
   State s;

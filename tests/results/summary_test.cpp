@@ -5,8 +5,11 @@
 
 #include <sstream>
 
+#include "core/events.h"
+#include "core/json.h"
 #include "core/pipeline.h"
 #include "core/recalculate.h"
+#include "results/report.h"
 #include "support/test_support.h"
 
 namespace vn::test {
@@ -74,6 +77,29 @@ TEST(SummaryText, DefaultProjectDigitForDigit) {
   EXPECT_EQ(v[2].ratio, "0.09");
   EXPECT_EQ(v[2].colour, 2);
   EXPECT_EQ(v[2].limit, " < 1.0 (0.50L; Ch 6.2.5)");
+}
+
+// The rules in force are named on the summary's first line, in the report and in the JSON; the
+// default rules add nothing to the summary or the report.
+TEST(RulesInForce, TheStrictRulesAreNamedAndTheDefaultLeavesTheTextsAsTheyWere) {
+  State s = StartedState();
+  const std::string plainReport = ReportText(BuildReport(s, ReportKind::Stability, "1.1.2026", "12:00:00"));
+  EXPECT_EQ(plainReport.find("Rules"), std::string::npos);
+  EXPECT_NE(StateToJson(s).find("\"Rules\":\"as specified\""), std::string::npos);
+  Fire(s, "setup.strict", "1");
+  EXPECT_EQ(Lines(SummaryText(s))[0],
+            "Governing Loadcase: EN1990 ULS: Eq 6.10: LC = 1.35*G + 1.5*Q1 + 1.5*0.7*Q2    [Rules: EN 1993 "
+            "strict]");
+  for (ReportKind kind : {ReportKind::SectionCapacity, ReportKind::Stability}) {
+    const std::string report = ReportText(BuildReport(s, kind, "1.1.2026", "12:00:00"));
+    EXPECT_NE(report.find("Rules: "), std::string::npos);
+    EXPECT_NE(report.find("EN 1993 strict"), std::string::npos);
+  }
+  EXPECT_NE(StateToJson(s).find("\"Rules\":\"EN 1993 strict\""), std::string::npos);
+  Fire(s, "setup.strict", "x");  // a damaged value is the default rules
+  EXPECT_EQ(s.project.strictRules, False);
+  EXPECT_EQ(Lines(SummaryText(s))[0],
+            "Governing Loadcase: EN1990 ULS: Eq 6.10: LC = 1.35*G + 1.5*Q1 + 1.5*0.7*Q2");
 }
 
 TEST(ShowControls, NoForcesLeaveTheSectionTitleAlone) {

@@ -1,0 +1,97 @@
+// The strict rules: where the standard's own rule replaces a departure of the program's method,
+// each member is worked by hand both ways, and the default rules must keep their own numbers.
+#include <gtest/gtest.h>
+
+#include "checks/buckling_fixture.h"
+#include "core/state.h"
+
+namespace vn {
+namespace {
+
+using test::Do;
+
+// UB 457x191x98, S275 (fy = 275 for tf = 19.6 mm), L = 5 m, N = 1400 kN, q = 10 kN/m: My = 31.25 kNm.
+// epsilon = sqrt(235/275) = 0.924402. Web: d/tw = 407.6/11.4 = 35.754; flange c/tf = 80.5/19.6 = 4.11.
+// Pure bending: web class 1 (35.754 < 72 eps), flange class 1: classMy = 1, Wpl,y = 2230E3 mm3.
+// Under N and M (Table 5.2): alfa = 1400E3/(407.6 * 11.4 * 275) > 1 -> 1; 396 eps/(13 - 1) = 30.505,
+// 456 eps/12 = 35.127 < 35.754: class 3 under the pair.
+// Section control, 6.2.1 (7) and 6.2.9.2: NRd = 12500 * 275 = 3437.5 kN, Mel,y,Rd = 1960E3 * 275 = 539.0
+//   strict:       1400/3437.5 + 31.25/539.0 = 0.40727 + 0.05798 = 0.46525 -> "0.47"
+//   as specified: 1400/3437.5 + 31.25/613.25 = 0.40727 + 0.05096 = 0.45823 -> "0.46"
+// Buckling about z (6.62), Method 2, Table B.2 for class 3: Nb,z,Rd = 1421.4 (n/Nb,z = 0.98495),
+// lamda,z = 1.328, CmLT = 0.95: kzy = max(1 - 0.05 * 1.328/0.7 * 0.98495, 1 - 0.05/0.7 * 0.98495)
+//   = max(0.90657, 0.92965) = 0.92965; lamda,LT = sqrt(1960E3 * 275 / Mcr 499.003E6) = 1.0393
+//   (curve c, h/b > 2): Phi = 0.5 (1 + 0.49 * 0.6393 + 0.75 * 1.0801) = 1.06167, chi,LT = 0.61548,
+//   x,LT = 0.631 with f; IR,z = 0.98495 + 0.92965 * 31.25/(0.631 * 539.0) = 0.98495 + 0.08542 = 1.070
+// as specified (class 1 in bending): kzy = max(1 - 0.1 * 1.328/0.7 * 0.98495, 1 - 0.1/0.7 * 0.98495)
+//   = 0.85929 and My,Rd = 613.25, x,LT 0.59: IR,z = 0.98495 + 0.85929 * 31.25/(0.59 * 613.25) = 1.06
+State Ub457Column() {
+  State s = test::Member("mnuu", "p101", 42, "5", "1400", "10");
+  Do(s, "cbofyk", "2");
+  return s;
+}
+
+TEST(StrictRules, AClassThreeSectionUnderItsOwnForcesTakesTheElasticResistance) {
+  State s = Ub457Column();
+  ASSERT_EQ(s.section.classMy, 1);
+  EXPECT_EQ(s.checks.secText[2].Numbers, "1400.0/3437.5+31.3/613.3 = ");
+  EXPECT_EQ(s.checks.secText[2].Ratio, "0.46");
+  EXPECT_EQ(s.checks.buckTextZ.Ratio, "1.06");
+
+  Do(s, "setup.strict", "1");
+  const Checks& k = s.checks;
+  EXPECT_EQ(k.secText[2].Numbers, "1400.0/3437.5+31.3/539.0 = ");
+  EXPECT_EQ(k.secText[2].Ratio, "0.47");
+  EXPECT_TRUE(test::Near(k.kzy, 0.92965, test::Tolerance{2e-5, "kzy from the rounded n/Nb,z"}));
+  EXPECT_EQ(k.buckTextZ.Numbers, "1400.0/1421.4+0.93*31.3/(0.63*539.0)");
+  EXPECT_EQ(k.buckTextZ.Ratio, "1.07");
+  // The section record keeps its class of pure bending and its plastic resistance.
+  EXPECT_EQ(s.section.classMy, 1);
+  EXPECT_NEAR(s.section.MyRdBuck, 613.25, 0.01);
+}
+
+// The same UB 457x191x98 S275, 5 m, under N = 1270 kN and q = 10 kN/m (My = 31.25 kNm). Table 5.2:
+// alfa = 0.5 (1 + NEd/(c tw fy)) with c = d = 407.6 mm; the program's own method takes hw = 428.0 mm.
+//   as specified: 1270E3/(428.0 * 11.4 * 275) = 0.94649, alfa = 0.97325,
+//                 456 eps/(13 alfa - 1) = 421.527/11.6522 = 36.176 >= 35.754: web class 2
+//   strict:       1270E3/(407.6 * 11.4 * 275) = 0.99390, alfa = 0.99695,
+//                 421.527/11.9603 = 35.244 < 35.754; psi = -86.97/-116.23 = 0.7483,
+//                 42 eps/(0.67 + 0.33 psi) = 42.35 >= 35.754: web class 3
+// Class 2 takes MN,y,Rd = 613.25 (1 - 0.36945)/(1 - 0.5 * 0.39538) = 481.96 kNm (n = 1270/3437.5,
+// a = (12500 - 2 * 192.8 * 19.6)/12500): IR = 31.25/481.96 = 0.0648 -> "0.06". Class 3 takes the
+// elastic check: 1270/3437.5 + 31.25/539.0 = 0.36945 + 0.05798 = 0.42743 -> "0.43".
+TEST(StrictRules, TheWebsAlfaOfTheClassificationComesFromTheDepthBetweenTheFillets) {
+  State s = test::Member("mnuu", "p101", 42, "5", "1270", "10");
+  Do(s, "cbofyk", "2");
+  EXPECT_EQ(s.checks.secText[2].Formula, "IR = My,Ed/MN,y,Rd = ");
+  EXPECT_EQ(s.checks.secText[2].Numbers, "31.3/482.0 = ");
+  EXPECT_EQ(s.checks.secText[2].Ratio, "0.06");
+  Do(s, "setup.strict", "1");
+  EXPECT_EQ(s.checks.secText[2].Formula, "IR = NEd/NRd+My,Ed/My,Rd = ");
+  EXPECT_EQ(s.checks.secText[2].Numbers, "1270.0/3437.5+31.3/539.0 = ");
+  EXPECT_EQ(s.checks.secText[2].Ratio, "0.43");
+}
+
+// A roof beam under wind uplift: IPE 300 S355, 6 m, G = 2 kN/m down, Q1 = -6 kN/m (uplift), Eq 6.10.
+//   as specified: 1.35 * 2 + 1.5 * (-6) = -6.3 kN/m, My = -6.3 * 6^2/8 = -28.35 kNm
+//   strict (EN 1990 Table A1.2(B), G favourable: gamma G,inf = 1.0): 2 - 9 = -7 kN/m, My = -31.5 kNm;
+//   the larger effect governs.
+TEST(StrictRules, AFavourablePermanentLoadTakesGammaGInfAndTheLargerEffectGoverns) {
+  State s = test::Ipe300("6", "0", "2");
+  Do(s, "CboLoadComb", "0");
+  Do(s, "Loading.ch_q(2)", "1");
+  Do(s, "Loading.iq_gq(2)", "1");
+  Do(s, "Loading.iq(2)", "-6");
+  EXPECT_NEAR(s.analysis.MyGov, -28.35, 0.01);
+  EXPECT_EQ(s.analysis.permanentFavourable, False);
+  Do(s, "setup.strict", "1");
+  EXPECT_NEAR(s.analysis.MyGov, -31.5, 0.01);
+  EXPECT_EQ(s.analysis.permanentFavourable, True);
+  // A load case where G acts with Q keeps gamma G,sup: 1.35 * 2 + 1.5 * 6 = 11.7 kN/m, 52.65 kNm.
+  Do(s, "Loading.iq(2)", "6");
+  EXPECT_NEAR(s.analysis.MyGov, 52.65, 0.01);
+  EXPECT_EQ(s.analysis.permanentFavourable, False);
+}
+
+}  // namespace
+}  // namespace vn
