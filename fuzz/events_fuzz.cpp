@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "core/events.h"
-#include "core/json.h"
 #include "fuzz_support.h"
 
 namespace {
@@ -59,6 +58,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     vn::EventResult r = vn::Fire(s, control, text);
     if (r.exit) break;
   }
-  (void)vn::StateToJson(s);
   return 0;
 }
