@@ -4,13 +4,18 @@
 
 BUILD     ?= build
 ASAN      ?= build-asan
+FUZZ      ?= build-fuzz
+FUZZ_TIME ?= 60
+# What each fuzz target is given: by default FUZZ_TIME seconds; FUZZ_FLAGS=-runs=1000000 for a count.
+FUZZ_FLAGS ?= -max_total_time=$(FUZZ_TIME)
+FUZZ_TARGETS := project_reader settings_files events
 JOBS      ?= $(shell nproc)
 PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
              libxlsxwriter-dev qt6-base-dev xvfb xauth locales
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test test-comma test-sanitize format format-check bench clean
+.PHONY: all deps configure build run test test-comma test-sanitize fuzz format format-check bench clean
 
 all: build
 
@@ -54,7 +59,7 @@ test-comma: build
 
 # The layout of the sources (.clang-format): `make format` rewrites them, `make format-check` fails
 # on a file that differs.
-SOURCES = $(shell find src tests bench tools -name '*.cpp' -o -name '*.h')
+SOURCES = $(shell find src tests bench tools fuzz -name '*.cpp' -o -name '*.h')
 format:
 	clang-format -i $(SOURCES)
 format-check:
@@ -69,8 +74,26 @@ test-sanitize: deps
 	cmake --build $(ASAN) -j $(JOBS)
 	cd $(ASAN) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
 
+# The fuzz targets (fuzz/), built with clang in their own folder, each run for FUZZ_TIME seconds
+# from its seed corpus. New inputs found go to $(FUZZ)/corpus, a failing one to $(FUZZ)/artifacts.
+fuzz: deps
+	@command -v clang++ >/dev/null || { $(SUDO) apt-get update -qq && \
+	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq clang; }
+	cmake -S . -B $(FUZZ) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
+	  -DVARNELT_FUZZ=ON -DVARNELT_TESTS=OFF -DVARNELT_BENCH=OFF -DVARNELT_FORMS=OFF
+	cmake --build $(FUZZ) -j $(JOBS) --target $(addprefix fuzz_,$(FUZZ_TARGETS))
+	@mkdir -p $(FUZZ)/artifacts
+	@for t in $(FUZZ_TARGETS); do \
+	  mkdir -p $(FUZZ)/corpus/$$t; \
+	  dict=""; [ -f fuzz/$$t.dict ] && dict="-dict=fuzz/$$t.dict"; \
+	  echo "== fuzz_$$t"; \
+	  ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+	  $(FUZZ)/bin/fuzz_$$t $(FUZZ_FLAGS) -timeout=1 -rss_limit_mb=2048 -print_final_stats=1 $$dict \
+	    -artifact_prefix=$(FUZZ)/artifacts/$$t- $(FUZZ)/corpus/$$t fuzz/corpus/$$t || exit 1; \
+	done
+
 bench: build
 	$(BUILD)/bin/varnelt_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
 clean:
-	rm -rf $(BUILD) $(ASAN)
+	rm -rf $(BUILD) $(ASAN) $(FUZZ)

@@ -13,7 +13,6 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -22,6 +21,7 @@
 #include "cli/project_text.h"
 #include "core/events.h"
 #include "core/json.h"
+#include "core/safe_file.h"
 #include "core/startup.h"
 #include "core/state.h"
 #include "export/spreadsheet_export.h"
@@ -77,10 +77,9 @@ bool WritePictures(const vn::State& s, const std::string& dir, std::string* erro
     vn::draw::SvgCanvas svg(w, h);
     vn::draw::Replay(drawing, svg);
     const std::string path = (std::filesystem::path(dir) / (name + ".svg")).string();
-    std::ofstream out(path, std::ios::binary);
-    out << svg.Svg();
-    if (!out) {
-      *error = "varnelt-cli: can't write " + path;
+    std::string reason;
+    if (!vn::ReplaceFile(path, svg.Svg(), &reason)) {
+      *error = "varnelt-cli: cannot write '" + path + "': " + reason;
       return false;
     }
   }
@@ -182,6 +181,11 @@ int main(int argc, char** argv) {
     }
     if (r.refused) {
       std::cerr << r.message << "\n";
+      // A file action that failed (a save, "Save as default", the export): the path and the reason.
+      if (!r.fileError.empty()) {
+        std::cerr << "varnelt-cli: " << r.fileError << "\n";
+        return 3;
+      }
       return 2;
     }
   }

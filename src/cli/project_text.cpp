@@ -114,15 +114,24 @@ std::string DetailText(const State& s) {
   return out;
 }
 
+namespace {
+
+// The file-action message as the desktop program shows it, then the path and the system's reason.
+std::string FileActionError(const EventResult& r) {
+  return r.fileError.empty() ? r.message : r.message + "\nvarnelt-cli: " + r.fileError;
+}
+
+}  // namespace
+
 bool OpenProject(State& s, const std::string& path, std::string* error) {
   EventResult r = OpenAction(s, path);
-  if (r.refused) *error = r.message;
+  if (r.refused) *error = FileActionError(r);
   return !r.refused;
 }
 
 bool SaveProject(State& s, const std::string& path, std::string* error) {
   EventResult r = SaveAsAction(s, path);
-  if (r.refused) *error = r.message;
+  if (r.refused) *error = FileActionError(r);
   return !r.refused;
 }
 

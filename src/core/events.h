@@ -25,6 +25,7 @@ struct EventResult {
   bool recalculated = false;  // Recalculate ran at least once
   std::string question;       // a question the front end asks; the answer comes back as the text
   bool exit = false;          // the program ends at once
+  std::string fileError;      // a failed file action: "cannot write 'PATH': REASON", else empty
 };
 
 using ControlHandler = std::function<EventResult(State& s, int index, std::string_view text)>;

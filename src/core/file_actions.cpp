@@ -1,11 +1,10 @@
 #include "core/file_actions.h"
 
-#include <filesystem>
-
 #include "core/control_registry.h"
 #include "core/format.h"
 #include "core/project_file.h"
 #include "core/recalculate.h"
+#include "core/safe_file.h"
 #include "core/state.h"
 #include "design/design_basis.h"
 #include "sections/dispatch.h"
@@ -33,9 +32,30 @@ EventResult Message(const std::string& text) {
   return r;
 }
 
+// The message of a failed file action, with the path and the system's reason for a front end that
+// can show them (the command line).
+EventResult FileMessage(const std::string& text, const char* verb, const std::string& path,
+                        const std::string& reason) {
+  EventResult r = Message(text);
+  r.fileError = std::string("cannot ") + verb + " '" + path + "': " + reason;
+  return r;
+}
+
+EventResult CannotSave(const std::string& path, const std::string& reason) {
+  return FileMessage("can't save file - " + path, "write", path, reason);
+}
+
+// A file that could not be read at all: nothing of the record has changed.
+EventResult CannotRead(FileResult result, const std::string& path, const std::string& reason) {
+  if (result == FileResult::TooLarge)
+    return FileMessage("Input file not compatible with this version ", "read", path, reason);
+  return FileMessage("can't find file - " + path, "read", path, reason);
+}
+
 // Reading a project: the path now stands in the record; the dialogs close; the record is shown.
-EventResult AfterRead(State& s, FileResult result, const std::string& path) {
-  if (result == FileResult::NotFound) return Message("can't find file - " + path);
+EventResult AfterRead(State& s, FileResult result, const std::string& path, const std::string& reason) {
+  if (result == FileResult::NotFound || result == FileResult::TooLarge)
+    return CannotRead(result, path, reason);
   if (result == FileResult::PastEnd) return Message("Input file not compatible with this version ");
   if (result != FileResult::Ok) return EventResult{};
   s.view.openDialogs.clear();
@@ -99,13 +119,19 @@ void MoveRecentToTop(State& s, int index, const std::string& path) {
 EventResult OpenAction(State& s, const std::string& path) {
   if (path.empty()) return EventResult{};  // cancelled
   Project& p = s.project;
+  // The file is read whole before anything changes: a path that is missing, a folder, a device or
+  // a file of megabytes ends the action with the record, the caption and the recent list as they were.
+  std::string text, reason;
+  const ReadStatus read = ReadFileBounded(path, kProjectFileLimit, &text, &reason);
+  if (read != ReadStatus::Ok)
+    return CannotRead(read == ReadStatus::TooLarge ? FileResult::TooLarge : FileResult::NotFound, path,
+                      reason);
   FileResult result;
   if (path == p.fileName) {
-    result = ReadProject(s, path);
+    result = ReadProjectText(s, text);
   } else {
-    if (!std::filesystem::exists(path)) return Message("can't find file - " + path);
     p.fileName = path;
-    result = ReadProject(s, path);
+    result = ReadProjectText(s, text);
     // A failed read ends the action here: the caption and the recent list stay as they were.
     if (result == FileResult::Ok) {
       BuildCaption(s);
@@ -113,7 +139,7 @@ EventResult OpenAction(State& s, const std::string& path) {
     }
   }
   if (result == FileResult::Ok) s.currentDir = FolderOf(path);
-  return AfterRead(s, result, path);
+  return AfterRead(s, result, path, reason);
 }
 
 EventResult RecentFileAction(State& s, int index) {
@@ -131,22 +157,22 @@ EventResult RecentFileAction(State& s, int index) {
       BuildRecentMenu(s);
     }
   }
-  FileResult result = ReadProject(s, path);
+  std::string reason;
+  FileResult result = ReadProject(s, path, &reason);
   if (result == FileResult::Ok) s.currentDir = FolderOf(path);
-  return AfterRead(s, result, path);
+  return AfterRead(s, result, path, reason);
 }
 
 EventResult SaveAction(State& s, const std::string& path) {
   Project& p = s.project;
   if (p.fileName != "New File") {
-    FileResult r = WriteProject(s, p.fileName);
-    if (r == FileResult::NotFound) return Message("can't save file - " + p.fileName);
+    std::string reason;
+    if (WriteProject(s, p.fileName, &reason) != FileResult::Ok) return CannotSave(p.fileName, reason);
     return EventResult{};
   }
   if (path.empty()) return EventResult{};  // cancelled
-  FileResult r = WriteProject(s, path);
-  if (r == FileResult::NotFound) return Message("can't save file - " + path);
-  if (r != FileResult::Ok) return EventResult{};
+  std::string reason;
+  if (WriteProject(s, path, &reason) != FileResult::Ok) return CannotSave(path, reason);
   s.currentDir = FolderOf(path);
   // fileName stays "New File": the caption doesn't change and the next Save asks again.
   PushRecent(s, path);
@@ -159,9 +185,8 @@ EventResult SaveAsAction(State& s, const std::string& path) {
   const bool same = path == p.fileName;
   if (!same) p.fileName = path;
   s.view.caption = "Varnelt EC3 - " + CodeDisplayName(p.codeIndex) + ": " + p.fileName;
-  FileResult r = WriteProject(s, path);
-  if (r == FileResult::NotFound) return Message("can't save file - " + path);
-  if (r != FileResult::Ok) return EventResult{};
+  std::string reason;
+  if (WriteProject(s, path, &reason) != FileResult::Ok) return CannotSave(path, reason);
   s.currentDir = FolderOf(path);
   if (!same) PushRecent(s, path);
   return EventResult{};
@@ -177,8 +202,9 @@ EventResult NewAction(State& s, const std::string& answer) {
     }
     if (answer == "Cancel" || answer == "cancel") return EventResult{};
     if (answer == "Yes" || answer == "yes") {
-      FileResult w = WriteProject(s, p.fileName);
-      if (w == FileResult::NotFound) return Message("can't save file - " + p.fileName);
+      // A failed save ends the action: the project is not dropped.
+      std::string reason;
+      if (WriteProject(s, p.fileName, &reason) != FileResult::Ok) return CannotSave(p.fileName, reason);
     } else if (answer != "No" && answer != "no") {
       return Message("Answer Yes, No or Cancel to: " + std::string(kSaveQuestion));
     }

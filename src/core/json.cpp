@@ -14,9 +14,48 @@ namespace vn {
 
 namespace {
 
+// The length of the well-formed UTF-8 sequence at text[i], or 0 where the bytes are not one
+// (a stray continuation byte, a sequence cut short, an overlong form, a surrogate, beyond U+10FFFF).
+size_t Utf8Length(const std::string& text, size_t i) {
+  auto at = [&](size_t k) { return k < text.size() ? static_cast<unsigned char>(text[k]) : 0u; };
+  auto cont = [&](size_t k) { return (at(k) & 0xC0u) == 0x80u; };
+  const unsigned b = at(i);
+  if (b < 0x80) return 1;
+  if (b >= 0xC2 && b <= 0xDF) return cont(i + 1) ? 2 : 0;
+  if (b >= 0xE0 && b <= 0xEF) {
+    const unsigned b1 = at(i + 1);
+    if (b == 0xE0 && b1 < 0xA0) return 0;  // overlong
+    if (b == 0xED && b1 > 0x9F) return 0;  // a surrogate
+    return cont(i + 1) && cont(i + 2) ? 3 : 0;
+  }
+  if (b >= 0xF0 && b <= 0xF4) {
+    const unsigned b1 = at(i + 1);
+    if (b == 0xF0 && b1 < 0x90) return 0;  // overlong
+    if (b == 0xF4 && b1 > 0x8F) return 0;  // beyond U+10FFFF
+    return cont(i + 1) && cont(i + 2) && cont(i + 3) ? 4 : 0;
+  }
+  return 0;
+}
+
+// A JSON string of any bytes: control characters escaped, well-formed UTF-8 passed on, and each
+// byte that is not part of it (a name typed in a single-byte code page, a damaged file) replaced by
+// U+FFFD, so that the output is valid JSON whatever a file or a field holds.
 void Escape(std::string& out, const std::string& text) {
   out += '"';
-  for (unsigned char ch : text) {
+  for (size_t i = 0; i < text.size();) {
+    const unsigned char ch = static_cast<unsigned char>(text[i]);
+    const size_t n = Utf8Length(text, i);
+    if (n == 0) {
+      out += "\\ufffd";
+      ++i;
+      continue;
+    }
+    if (n > 1) {
+      out.append(text, i, n);
+      i += n;
+      continue;
+    }
+    ++i;
     switch (ch) {
       case '"': out += "\\\""; break;
       case '\\': out += "\\\\"; break;

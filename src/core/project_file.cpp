@@ -2,11 +2,10 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 
 #include "core/format.h"
+#include "core/safe_file.h"
 #include "core/state.h"
 #include "design/design_basis.h"
 #include "sections/rolled_i.h"
@@ -459,13 +458,16 @@ std::string ProjectFileText(State& s) {
   return io.w.Text();
 }
 
-FileResult ReadProject(State& s, const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return FileResult::NotFound;
-  std::ostringstream all;
-  all << in.rdbuf();
-  in.close();
-  Reader reader(all.str());
+FileResult ReadProject(State& s, const std::string& path, std::string* reason) {
+  std::string text;
+  const ReadStatus read = ReadFileBounded(path, kProjectFileLimit, &text, reason);
+  if (read == ReadStatus::TooLarge) return FileResult::TooLarge;
+  if (read != ReadStatus::Ok) return FileResult::NotFound;
+  return ReadProjectText(s, text);
+}
+
+FileResult ReadProjectText(State& s, const std::string& text) {
+  Reader reader(text);
   ReadIO io{reader};
   try {
     Integer version = 0;
@@ -495,32 +497,9 @@ FileResult ReadProject(State& s, const std::string& path) {
   return FileResult::Ok;
 }
 
-FileResult WriteProject(State& s, const std::string& path) {
-  namespace fs = std::filesystem;
-  const std::string text = ProjectFileText(s);
-  std::error_code ec;
-  fs::path target(path);
-  fs::path dir = target.parent_path();
-  if (!dir.empty() && !fs::is_directory(dir, ec)) return FileResult::NotFound;
-  fs::path temp = target;
-  temp += ".tmp~";
-  {
-    std::ofstream out(temp, std::ios::binary | std::ios::trunc);
-    if (!out) return FileResult::NotFound;
-    out << text;
-    out.flush();
-    if (!out) {
-      out.close();
-      fs::remove(temp, ec);
-      return FileResult::OtherError;
-    }
-  }
-  fs::rename(temp, target, ec);
-  if (ec) {
-    fs::remove(temp, ec);
-    return FileResult::NotFound;
-  }
-  return FileResult::Ok;
+FileResult WriteProject(State& s, const std::string& path, std::string* reason) {
+  // Any failure, from a missing folder to a full disk, leaves the previous file as it was.
+  return ReplaceFile(path, ProjectFileText(s), reason) ? FileResult::Ok : FileResult::NotFound;
 }
 
 }  // namespace vn

@@ -67,13 +67,18 @@ void OnPsiChoice(State& s, int list, int index);
 inline constexpr const char* kSteelGradeFile = "VarneltECmat.dat";
 // Steel grade table "VarneltECmat.dat" in the program's folder.
 void ReadSteelGrades(State& s);
+// The reader of the steel grade file's text, as ReadSteelGrades uses it.
+void ReadSteelGradesText(State& s, const std::string& text);
 
 // ---- Setup file and start-up (setup_file.cpp) ----
 
 inline constexpr const char* kSetupFile = "VarneltEC3Setup.dat";
-// Setup file "VarneltEC3Setup.dat" in the program's folder. Both swallow every error.
+// Setup file "VarneltEC3Setup.dat" in the program's folder. The reader is silent: a missing,
+// damaged or oversized file leaves the defaults. The writer ("Save as default") replaces the file
+// only when the new one is complete; false with the reason when it could not, the old file intact.
 void ReadSetupFile(State& s);
-void WriteSetupFile(State& s);
+void ReadSetupText(State& s, const std::string& text);
+bool WriteSetupFile(State& s, std::string* reason = nullptr);
 // The start-up sequence: steel grades, catalogues, setup file, derived factors and texts.
 void LoadSettings(State& s);
 // What a read project derives from its stored settings: psi from the indices, codeIndex from

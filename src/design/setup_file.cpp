@@ -4,11 +4,11 @@
 #include <charconv>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
 #include <limits>
 #include <sstream>
 
 #include "core/format.h"
+#include "core/safe_file.h"
 #include "core/state.h"
 #include "design/design_basis.h"
 #include "sections/catalogue.h"
@@ -152,12 +152,15 @@ std::string BooleanText(Boolean b) { return b != 0 ? "#TRUE#" : "#FALSE#"; }
 }  // namespace
 
 void ReadSetupFile(State& s) {
+  // A file that is missing, no regular file or larger than any setup file leaves the defaults.
+  std::string text;
+  if (ReadFileBounded(SetupPath(s).string(), kSettingsFileLimit, &text, nullptr) != ReadStatus::Ok) return;
+  ReadSetupText(s, text);
+}
+
+void ReadSetupText(State& s, const std::string& text) {
   try {
-    std::ifstream in(SetupPath(s), std::ios::binary);
-    if (!in) return;
-    std::ostringstream all;
-    all << in.rdbuf();
-    SetupValues f(all.str());
+    SetupValues f(text);
     Project& p = s.project;
     Integer version = 0;  // read and ignored
     // A file of an older version has no rules at its end and is in the default rules, and so is
@@ -180,7 +183,7 @@ void ReadSetupFile(State& s) {
   }
 }
 
-void WriteSetupFile(State& s) {
+bool WriteSetupFile(State& s, std::string* reason) {
   try {
     Project& p = s.project;
     p.codeId = CodeIdFromIndex(p.codeIndex);
@@ -218,10 +221,11 @@ void WriteSetupFile(State& s) {
     // Appended after the last value, and only for the strict rules: a reader of the older version
     // stops before it, and a setup in the default rules is written exactly as before.
     if (p.strictRules != 0) line(Quoted(kStrictRulesMark));
-    std::ofstream file(SetupPath(s), std::ios::binary | std::ios::trunc);
-    if (!file) return;  // a folder without write access: nothing is said
-    file << out.str();
-  } catch (const std::exception&) {
+    // A failed write leaves the previous setup file as it was.
+    return ReplaceFile(SetupPath(s).string(), out.str(), reason);
+  } catch (const std::exception& e) {
+    if (reason) *reason = e.what();
+    return false;
   }
 }
 

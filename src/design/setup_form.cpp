@@ -2,6 +2,7 @@
 // design basis. Every change goes into the record at once and recalculates; "Save as default"
 // writes the setup file.
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <limits>
 #include <type_traits>
@@ -375,8 +376,17 @@ void RegisterSetupControls(ControlTable& t) {
     return EventResult{};
   });
   AddControl(t, kForm, "Command2", [](State& s, int, std::string_view) {
-    WriteSetupFile(s);  // "Save as default"
-    return EventResult{};
+    // "Save as default". A failure says so, as a failed save of a project does: the settings are
+    // not the defaults of the next start, and the setup file is the one there was.
+    EventResult r;
+    std::string reason;
+    if (!WriteSetupFile(s, &reason)) {
+      const std::string path = (std::filesystem::path(s.appPath) / kSetupFile).string();
+      r.refused = true;
+      r.message = "can't save file - " + path;
+      r.fileError = "cannot write '" + path + "': " + reason;
+    }
+    return r;
   });
   AddControl(t, kForm, "CmdOK", [](State& s, int, std::string_view) {
     // Closing saves nothing: the settings stay in the record.

@@ -1,11 +1,11 @@
 // The steel grade table: one grade a line, "name<TAB>fy up to 40 mm<TAB>fy over 40 mm", the last
 // line standing for a strength typed by the user.
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <vector>
 
 #include "core/format.h"
+#include "core/safe_file.h"
 #include "core/state.h"
 #include "design/design_basis.h"
 
@@ -35,10 +35,18 @@ void ReadStrength(const std::vector<std::string>& fields, size_t i, bool decimal
 }  // namespace
 
 void ReadSteelGrades(State& s) {
+  s.steel = SteelGrades{};
+  // No file, no regular file or one far larger than a table of grades: an empty table, gradeLast -1.
+  std::string text;
+  const std::string path = (std::filesystem::path(s.appPath) / kSteelGradeFile).string();
+  if (ReadFileBounded(path, kSettingsFileLimit, &text, nullptr) != ReadStatus::Ok) return;
+  ReadSteelGradesText(s, text);
+}
+
+void ReadSteelGradesText(State& s, const std::string& text) {
   SteelGrades& t = s.steel;
   t = SteelGrades{};
-  std::ifstream in(std::filesystem::path(s.appPath) / kSteelGradeFile, std::ios::binary);
-  if (!in) return;  // no file: an empty table, gradeLast -1
+  std::istringstream in(text);
 
   long lines = 0;
   std::string line;

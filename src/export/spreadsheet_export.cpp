@@ -1,60 +1,20 @@
 #include "export/spreadsheet_export.h"
 
-#include <fcntl.h>
-#include <unistd.h>
 #include <xlsxwriter.h>
 
 #include <cctype>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <filesystem>
 
+#include "core/safe_file.h"
 #include "core/state.h"
 
 namespace vn {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 std::string CannotWrite(const std::string& path, const std::string& reason) {
   return "cannot write '" + path + "': " + reason;
-}
-
-// A new, empty file beside `path`, in the same folder so that the final rename replaces the target
-// in one step. Its name starts with a dot and ends in the process id and a counter.
-bool ReserveTemp(const std::string& path, std::string* temp, std::string* error) {
-  if (path.empty()) {
-    *error = "cannot write '': no file name given";
-    return false;
-  }
-  fs::path target(path);
-  if (!target.has_filename()) {
-    *error = CannotWrite(path, "not a file name");
-    return false;
-  }
-  const fs::path folder = target.parent_path();
-  const std::string base = "." + target.filename().string() + ".tmp-" + std::to_string(getpid());
-  for (int n = 0; n < 100; ++n) {
-    fs::path candidate = folder / (base + "-" + std::to_string(n));
-    int fd = open(candidate.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd >= 0) {
-      close(fd);
-      *temp = candidate.string();
-      return true;
-    }
-    if (errno != EEXIST) break;
-  }
-  *error = CannotWrite(path, std::strerror(errno));
-  return false;
-}
-
-bool Commit(const std::string& temp, const std::string& path, std::string* error) {
-  if (std::rename(temp.c_str(), path.c_str()) == 0) return true;
-  *error = CannotWrite(path, std::strerror(errno));
-  std::remove(temp.c_str());
-  return false;
 }
 
 bool EndsWithCsv(const std::string& path) {
@@ -78,42 +38,47 @@ std::string CsvCell(const std::string& text) {
 
 bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
                      std::string* error) {
-  std::string temp;
-  if (!ReserveTemp(path, &temp, error)) return false;
-
-  lxw_workbook* book = workbook_new(temp.c_str());
-  if (!book) {
-    *error = CannotWrite(path, "the workbook could not be created");
-    std::remove(temp.c_str());
-    return false;
-  }
-  lxw_worksheet* sheet = workbook_add_worksheet(book, nullptr);
-  lxw_format* strong = workbook_add_format(book);
-  format_set_bold(strong);
-
-  // The first column takes about a third of the table's width, as in the dialog.
-  const double widths[kDetailColumns] = {24, 16, 10, 18};
-  for (int c = 0; c < kDetailColumns; ++c)
-    worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c), widths[c], nullptr);
-
-  lxw_error failed = LXW_NO_ERROR;
-  for (size_t r = 0; r < rows.size() && failed == LXW_NO_ERROR; ++r) {
-    const bool isBold = r == 0 || bold.count(static_cast<int>(r)) > 0;
-    for (int c = 0; c < kDetailColumns && failed == LXW_NO_ERROR; ++c) {
-      const std::string& text = rows[r][static_cast<size_t>(c)];
-      if (text.empty()) continue;  // an empty cell stays empty
-      failed = worksheet_write_string(sheet, static_cast<lxw_row_t>(r), static_cast<lxw_col_t>(c),
-                                      text.c_str(), isBold ? strong : nullptr);
+  // libxlsxwriter opens the file by its name: it is given the name of the temporary file.
+  auto fill = [&](const std::string& temp, std::string* reason) {
+    lxw_workbook* book = workbook_new(temp.c_str());
+    if (!book) {
+      *reason = "the workbook could not be created";
+      return false;
     }
-  }
-  const lxw_error closed = workbook_close(book);  // writes the file and frees the workbook
-  if (failed == LXW_NO_ERROR) failed = closed;
-  if (failed != LXW_NO_ERROR) {
-    *error = CannotWrite(path, lxw_strerror(failed));
-    std::remove(temp.c_str());
-    return false;
-  }
-  return Commit(temp, path, error);
+    lxw_worksheet* sheet = workbook_add_worksheet(book, nullptr);
+    lxw_format* strong = workbook_add_format(book);
+    format_set_bold(strong);
+
+    // The first column takes about a third of the table's width, as in the dialog.
+    const double widths[kDetailColumns] = {24, 16, 10, 18};
+    for (int c = 0; c < kDetailColumns; ++c)
+      worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c), widths[c], nullptr);
+
+    lxw_error failed = LXW_NO_ERROR;
+    for (size_t r = 0; r < rows.size() && failed == LXW_NO_ERROR; ++r) {
+      const bool isBold = r == 0 || bold.count(static_cast<int>(r)) > 0;
+      for (int c = 0; c < kDetailColumns && failed == LXW_NO_ERROR; ++c) {
+        const std::string& text = rows[r][static_cast<size_t>(c)];
+        if (text.empty()) continue;  // an empty cell stays empty
+        failed = worksheet_write_string(sheet, static_cast<lxw_row_t>(r), static_cast<lxw_col_t>(c),
+                                        text.c_str(), isBold ? strong : nullptr);
+      }
+    }
+    errno = 0;
+    const lxw_error closed = workbook_close(book);  // writes the file and frees the workbook
+    if (failed == LXW_NO_ERROR) failed = closed;
+    if (failed != LXW_NO_ERROR) {
+      // The library's text, and the system's where it has one (a full disk, a file size limit).
+      *reason = lxw_strerror(failed);
+      if (errno != 0) *reason += std::string(" (") + std::strerror(errno) + ")";
+      return false;
+    }
+    return true;
+  };
+  std::string reason;
+  if (ReplaceFileWith(path, fill, &reason)) return true;
+  *error = CannotWrite(path, reason);
+  return false;
 }
 
 std::string DetailCsvText(const std::vector<DetailRow>& rows) {
@@ -129,24 +94,10 @@ std::string DetailCsvText(const std::vector<DetailRow>& rows) {
 }
 
 bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path, std::string* error) {
-  std::string temp;
-  if (!ReserveTemp(path, &temp, error)) return false;
-  const std::string text = DetailCsvText(rows);
-  int failed = 0;
-  errno = 0;
-  std::FILE* f = std::fopen(temp.c_str(), "wb");
-  if (!f) {
-    failed = errno ? errno : EIO;
-  } else {
-    if (std::fwrite(text.data(), 1, text.size(), f) != text.size()) failed = errno ? errno : EIO;
-    if (std::fclose(f) != 0 && !failed) failed = errno ? errno : EIO;
-  }
-  if (failed) {
-    *error = CannotWrite(path, std::strerror(failed));
-    std::remove(temp.c_str());
-    return false;
-  }
-  return Commit(temp, path, error);
+  std::string reason;
+  if (ReplaceFile(path, DetailCsvText(rows), &reason)) return true;
+  *error = CannotWrite(path, reason);
+  return false;
 }
 
 bool ExportDetailGrid(const State& s, const std::string& path, std::string* error) {

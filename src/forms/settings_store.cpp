@@ -22,6 +22,12 @@ std::string PlatformSettingsStore::Get(const std::string& app, const std::string
 void PlatformSettingsStore::Set(const std::string& app, const std::string& section, const std::string& key,
                                 const std::string& value) {
   QSettings settings(Q(app), Q(app));
+  // QSettings writes its file (~/.config/Varnelt_ns/Varnelt_ns.conf) through a QSaveFile: a new
+  // temporary file with a name of its own beside it, flushed to disk and renamed into place, under a
+  // lock file. With atomic sync required it never falls back to writing the file in place, so a
+  // failed write keeps the previous list whole. The list is not worth a message of its own: a failure
+  // leaves the entry out, as an empty value would be.
+  settings.setAtomicSyncRequired(true);
   settings.beginGroup(Q(section));
   settings.setValue(Q(key), Q(value));
   settings.sync();

@@ -29,6 +29,7 @@ EventResult ExportDetailGrid(State& s, std::string_view path) {
   if (!s.spreadsheet || path.empty() || !s.spreadsheet(s, std::string(path), &error)) {
     r.refused = true;
     r.message = kExportFailedText;
+    r.fileError = error;
   }
   return r;
 }

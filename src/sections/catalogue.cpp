@@ -1,10 +1,11 @@
 #include "sections/catalogue.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <fstream>
 
 #include "core/format.h"
+#include "core/safe_file.h"
 
 namespace vn {
 
@@ -60,16 +61,22 @@ void ReadCatalogue(Catalogue& t, CatalogueId id, const std::string& dir) {
   t.boundRows = s.boundRows;
   t.boundCols = s.boundCols;
   t.cell.assign(static_cast<size_t>(s.boundRows * s.boundCols), 0.0f);
-  std::ifstream in(JoinPath(dir, s.file), std::ios::binary);
-  if (!in) return;  // a missing file is an empty file: every cell stays 0
-  for (int row = 0; row < s.loopRows; ++row) {
-    if (row >= s.boundRows) break;  // every further read fails its bound check and reads nothing
+  // Only the bytes of the rows read are taken: a longer file is read as far as the fixed row count,
+  // and a missing file, or a folder, device or FIFO in its place, leaves every cell 0.
+  const int rows = std::min(s.loopRows, s.boundRows);  // reads beyond the table fail their bound check
+  std::string bytes;
+  if (ReadFileBounded(JoinPath(dir, s.file), static_cast<size_t>(rows * s.cols * 4), &bytes, nullptr,
+                      Oversize::ReadPrefix) != ReadStatus::Ok)
+    return;
+  size_t at = 0;
+  for (int row = 0; row < rows; ++row) {
     for (int col = 1; col <= s.cols; ++col) {
-      unsigned char bytes[4];
-      if (!in.read(reinterpret_cast<char*>(bytes), 4)) return;  // short file: zeros beyond
-      std::uint32_t bits =
-          static_cast<std::uint32_t>(bytes[0]) | (static_cast<std::uint32_t>(bytes[1]) << 8) |
-          (static_cast<std::uint32_t>(bytes[2]) << 16) | (static_cast<std::uint32_t>(bytes[3]) << 24);
+      if (at + 4 > bytes.size()) return;  // short file: zeros beyond
+      const auto* b = reinterpret_cast<const unsigned char*>(bytes.data() + at);
+      at += 4;
+      std::uint32_t bits = static_cast<std::uint32_t>(b[0]) | (static_cast<std::uint32_t>(b[1]) << 8) |
+                           (static_cast<std::uint32_t>(b[2]) << 16) |
+                           (static_cast<std::uint32_t>(b[3]) << 24);
       float v;
       std::memcpy(&v, &bits, 4);
       t.cell[static_cast<size_t>(row * s.boundCols + col)] = v;

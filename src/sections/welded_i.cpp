@@ -66,26 +66,67 @@ PlateSums PlateTable(Section& c, std::span<const Plate> plates) {
   return sum;
 }
 
+namespace {
+
+double AreaBelow(std::span<const Plate> plates, double z) {
+  double below = 0;
+  for (const Plate& pl : plates) {
+    if (pl.z0 <= z && z <= pl.z0 + pl.ht)
+      below += (z - pl.z0) * pl.w;
+    else if (pl.z0 + pl.ht < z)
+      below += pl.w * pl.ht;
+  }
+  return below;
+}
+
+}  // namespace
+
 Single SteppedPlasticAxis(std::span<const Plate> plates, double A, double h) {
+  // The axis climbs from 2 mm in steps of 0.1 mm, each added to the 32-bit value, and stops at the
+  // first step with half the area below it. Within one binary order [2^(e-1), 2^e) every step adds
+  // the same amount (0.1 rounded to that order's spacing), so the first such step there is found by
+  // bisection, the area below growing with the axis; the step that crosses into the next order is
+  // taken on its own. The result is the stepped one, also for a girder metres deep, where stepping
+  // one at a time takes millions of steps.
   const double half = A / 2.0;
   const double rounds = h / 0.1 + 100;  // the axis reaches h well within this
   Single zpl = 2;
-  for (double n = 0;; ++n) {
+  double n = 0;  // steps taken; step n + 1 is taken only while n <= rounds
+  for (;;) {
     if (n > rounds) Fault("overflow");
     // Beyond some 2 km a step of 0.1 mm is lost in the 32-bit axis: a girder of that depth ends
     // in the calculation error instead of stepping in place.
     const Single next = ToSingle(zpl + 0.1);
     if (next == zpl) Fault("overflow");
-    zpl = next;
-    const double z = zpl;
-    double below = 0;
-    for (const Plate& pl : plates) {
-      if (pl.z0 <= z && z <= pl.z0 + pl.ht)
-        below += (z - pl.z0) * pl.w;
-      else if (pl.z0 + pl.ht < z)
-        below += pl.w * pl.ht;
+    const double z0 = zpl, delta = static_cast<double>(next) - z0;
+    int e = 0;
+    std::frexp(z0, &e);
+    const double top = std::ldexp(1.0, e);
+    // Steps 1..k from z0 that stay below the top of the order, all of the same delta.
+    double k = std::ceil((top - z0) / delta) - 1;
+    while (k >= 1 && z0 + k * delta >= top) --k;
+    if (k < 1) {
+      zpl = next;
+      if (AreaBelow(plates, zpl) >= half) break;
+      ++n;
+      continue;
     }
-    if (below >= half) break;
+    if (AreaBelow(plates, z0 + k * delta) >= half) {
+      double lo = 1, hi = k;
+      while (lo < hi) {
+        const double mid = std::floor((lo + hi) / 2);
+        if (AreaBelow(plates, z0 + mid * delta) >= half)
+          hi = mid;
+        else
+          lo = mid + 1;
+      }
+      if (n + lo - 1 > rounds) Fault("overflow");
+      zpl = ToSingle(z0 + lo * delta);
+      break;
+    }
+    if (n + k - 1 > rounds) Fault("overflow");
+    zpl = ToSingle(z0 + k * delta);
+    n += k;
   }
   return zpl;
 }

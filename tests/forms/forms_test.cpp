@@ -125,6 +125,22 @@ class FormsTest : public QObject {
     QCOMPARE(warnings, (QStringList{vn::kNoResultsText, vn::kNoResultsText}));
   }
 
+  // ---- file actions ----
+
+  // A save that can't be written, and "Save as default" into a folder that is gone, show the file
+  // action's message in a warning box.
+  void aFailedWriteShowsTheFileActionMessage() {
+    QTemporaryDir dir;
+    const std::string gone = dir.filePath("gone").toStdString();
+    session->fireAndTell(form.get(), "mnusaveas", gone + "/a.vnt");
+    QCOMPARE(warnings, QStringList{QString::fromStdString("can't save file - " + gone + "/a.vnt")});
+    warnings.clear();
+    session->state().appPath = gone;
+    session->fireAndTell(form.get(), "setup.Command2");
+    QCOMPARE(warnings,
+             QStringList{QString::fromStdString("can't save file - " + gone + "/VarneltEC3Setup.dat")});
+  }
+
   // ---- the field protocol ----
 
   void fieldTurnsGreenAndSelectsItsTextOnFocus() {
