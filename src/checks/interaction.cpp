@@ -11,7 +11,9 @@
 //  - npl divides by NcRd, with gammaM0;
 //  - when nothing acts in one plane, Method 2 reads that plane's shape flags from the other one;
 //  - in end force mode a low Cmz (below 0.4) puts 0.4 into Cmy and keeps its own low value;
-//  - CmLT of Method 1 reads Ncr,TF where Table A.1 has Ncr,T.
+//  - CmLT of Method 1 reads Ncr,TF where Table A.1 has Ncr,T;
+//  - alpha,s and alpha,h about y take the midspan moment, not the span's extreme one (Table B.3);
+//  - a sway member (the cantilever) takes Cm from its diagram, not 0.9 (Table B.3, note).
 // The strict rules (StrictRules) replace those of them that the standard settles otherwise.
 #include <algorithm>
 #include <cmath>
@@ -258,6 +260,13 @@ void EquivalentMomentB(State& s) {
   k.Cmy = CmOfTableB3(fy.Curved != 0, fy.MidDominates != 0, fy.Linear != 0, an.ShapeY);
   k.CmLt = s.section.ltbRelevant == -1 ? k.Cmy : 1;
   k.Cmz = CmOfTableB3(fz.Curved != 0, fz.MidDominates != 0, fz.Linear != 0, an.ShapeZ);
+  // A member with a sway buckling mode takes Cmy = Cmz = 0.9 (Table B.3, note). The cantilever's
+  // free end sways in both planes; CmLT stays with the moment diagram, which is what it measures
+  // between the braced points. The program's own method takes the diagram for Cmy and Cmz as well.
+  if (StrictRules(s) && s.project.AnalysisMode == 1 && s.project.SupportType == 4) {
+    k.Cmy = 0.9;
+    k.Cmz = 0.9;
+  }
 }
 
 void EquivalentMomentBEnd(State& s) {

@@ -93,5 +93,59 @@ TEST(StrictRules, AFavourablePermanentLoadTakesGammaGInfAndTheLargerEffectGovern
   EXPECT_EQ(s.analysis.permanentFavourable, False);
 }
 
+// Annex B, Table B.3, on the HEB 200 S355 of interaction_test.cpp under N = 500 kN and q = 20 kN/m
+// in z, Method 2: lamda,y = 0.612914, lamda,z = 1.033580, n/Nb,y = 500/2302.086 = 0.217195,
+// n/Nb,z = 500/1443.305 = 0.346427; class 1, LT on: kyy = Cmy (1 + 0.412914 * 0.217195)
+// = 1.089683 Cmy (below the cap 1.173756 Cmy), kzy = max(1 - 0.1 lamda,z/(CmLT - 0.25) n/Nb,z,
+// 1 - 0.1/(CmLT - 0.25) n/Nb,z) of Table B.2.
+//
+// Pinned at x = 0 and fixed at x = L, L = 4 m (Lcr = 4 m): M(x) = 3/8 q L x - q x^2/2; at the ends
+// M1 = 0, M5 = -q L^2/8 = -40 kNm; at midspan M3 = 20 kNm; the span's extreme on the grid at
+// x = 19/50 L: (3 * 19/400 - 19^2/5000) q L^2 = 0.0703 * 320 = 22.496 kNm. |M5| > |M3|: alpha,s.
+//   as specified: alpha,s = M3/M5 = -0.5;     Cmy = 0.1 - 0.8 * -0.5 = 0.5 (q-load, psi = 0)
+//                 kyy = 0.544842; kzy = max(0.856776, 1 - 0.1/0.25 * 0.346427 = 0.861429)
+//   strict:       alpha,s = 22.496/-40 = -0.5624; Cmy = 0.1 + 0.44992 = 0.54992
+//                 kyy = 0.599239; kzy = max(0.880615, 1 - 0.1/0.29992 * 0.346427 = 0.884493)
+// Cantilever, L = 2 m, k = 2 about both axes (Lcr = 4 m): M(x) = -q (L - x)^2/2, M1 = -40 kNm,
+// M5 = 0, M3 = -10 kNm, the peak in 12..38 at x = 12/50 L: -10 * 1.52^2 = -23.104 kNm.
+//   as specified: alpha,s = -10/-40 = 0.25; Cmy = 0.2 + 0.8 * 0.25 = 0.4 = CmLT
+//                 kyy = 0.435873; kzy = max(1 - 0.1 * 1.03358/0.15 * 0.346427, 1 - 0.1/0.15 * 0.346427)
+//                 = max(0.761296, 0.769049) = 0.769049
+//   strict:       the free end sways: Cmy = Cmz = 0.9 (Table B.3, note): kyy = 0.980715;
+//                 CmLT from the diagram, alpha,s = -23.104/-40 = 0.5776: CmLT = 0.66208,
+//                 kzy = max(1 - 0.086890, 1 - 0.1/0.41208 * 0.346427 = 0.915932)
+TEST(StrictRules, TableB3TakesTheSpansExtremeMomentAndCmOfASwayMember) {
+  const test::Tolerance grid{2e-5, "moments of the grid summed in 32-bit floats"};
+  const struct {
+    const char* support;
+    const char* L;
+    const char* k;
+    double Cmy, CmLt, kyy, kzy;
+    const char* kyyText;
+  } rows[] = {
+      {"cbutt1", "4", "1", 0.5, 0.5, 0.544842, 0.861429, "+0.54*"},
+      {"cbutt1", "4", "1", 0.54992, 0.54992, 0.599239, 0.884493, "+0.60*"},
+      {"cbutt4", "2", "2", 0.4, 0.4, 0.435873, 0.769049, "+0.44*"},
+      {"cbutt4", "2", "2", 0.9, 0.66208, 0.980715, 0.915932, "+0.98*"},
+  };
+  for (int i = 0; i < 4; ++i) {
+    const auto& r = rows[i];
+    const bool strict = i % 2 == 1;
+    State s = test::Heb200(r.L, "500", "20");
+    Do(s, "setup.rbtnMethod2");
+    Do(s, r.support);
+    Do(s, "ibly", r.k);
+    Do(s, "iblz", r.k);
+    if (strict) Do(s, "setup.strict", "1");
+    const Checks& k = s.checks;
+    SCOPED_TRACE(std::string(r.support) + (strict ? " strict" : " as specified"));
+    EXPECT_TRUE(test::Near(k.Cmy, r.Cmy, grid));
+    EXPECT_TRUE(test::Near(k.CmLt, r.CmLt, grid));
+    EXPECT_TRUE(test::Near(k.kyy, r.kyy, grid));
+    EXPECT_TRUE(test::Near(k.kzy, r.kzy, grid));
+    EXPECT_NE(k.buckTextY.Numbers.find(r.kyyText), std::string::npos) << k.buckTextY.Numbers;
+  }
+}
+
 }  // namespace
 }  // namespace vn
