@@ -9,6 +9,7 @@ namespace vn {
 namespace {
 
 using test::Do;
+using test::Near;
 
 // UB 457x191x98, S275 (fy = 275 for tf = 19.6 mm), L = 5 m, N = 1400 kN, q = 10 kN/m: My = 31.25 kNm.
 // epsilon = sqrt(235/275) = 0.924402. Web: d/tw = 407.6/11.4 = 35.754; flange c/tf = 80.5/19.6 = 4.11.
@@ -144,6 +145,67 @@ TEST(StrictRules, TableB3TakesTheSpansExtremeMomentAndCmOfASwayMember) {
     EXPECT_TRUE(test::Near(k.kyy, r.kyy, grid));
     EXPECT_TRUE(test::Near(k.kzy, r.kzy, grid));
     EXPECT_NE(k.buckTextY.Numbers.find(r.kyyText), std::string::npos) << k.buckTextY.Numbers;
+  }
+}
+
+// Method 2, Table B.2's line for lamda,z < 0.4: HEB 200 S355, 1 m pinned, N = 500 kN, q = 200 kN/m
+// (My = 25 kNm), LT on, class 1. Ncr,z = 2594.657 * 16 = 41514.5 kN, lamda,z = 1.033580/4 = 0.258395;
+// curve c: Phi = 0.5 (1 + 0.49 * 0.058395 + 0.066768) = 0.547691, chi,z = 1/(0.547691 + 0.482905)
+// = 0.970312, Nb,z,Rd = 2689.55 kN, n/Nb,z = 0.185904; CmLT = 0.95 (q-load).
+//   as specified: kzy = max(1 - 0.1 * 0.258395/0.7 * 0.185904, 1 - 0.1/0.7 * 0.185904)
+//                 = max(0.993138, 0.973442) = 0.993138
+//   strict:       kzy = 0.6 + 0.258395 = 0.858395, at most 0.993138
+//   IR,z = 0.185904 + kzy * 25/228.104 (x,LT = 1): 0.29475 -> "0.29" / 0.27998 -> "0.28"
+// Each axis' own class, Tables B.1 and B.2: the general section of the dialog (A = 18720,
+// Iy = 1.185E9, Iz = 9.008E7, Wpl,y = 4421000, Wel,z = 600500, curves b and c, tmax 40 mm) with
+// class 1 about y and class 3 about z, 6 m, N = 1000 kN, q = 20 kN/m in z and 5 kN/m in y (My = 90,
+// Mz = 22.5 kNm), LT off, Cmz = 0.95:
+//   Ncr,z = pi^2 * 210000 * 9.008E7/6000^2 = 5186.148 kN, lamda,z = sqrt(6645600/5186148) = 1.131995,
+//   Phi = 0.5 (1 + 0.49 * 0.931995 + 1.281414) = 1.369046, chi,z = 0.467502, Nb,z,Rd = 3106.83 kN,
+//   n/Nb,z = 0.321872; lamda,y = 0.312104, chi,y = 0.959650, n/Nb,y = 0.156802,
+//   kyy = 0.95 (1 + 0.112104 * 0.156802) = 0.966699, kzy = 0.6 kyy = 0.580020
+//   as specified (class of y, plastic): kzz = min(0.95 (1 + 1.663990 * 0.321872),
+//                 0.95 (1 + 1.4 * 0.321872)) = min(1.458812, 1.378090) = 1.378090, kyz = 0.6 kzz = 0.826854
+//   strict (class 3 about z, elastic): kzz = min(0.95 (1 + 0.6 * 1.131995 * 0.321872),
+//                 0.95 (1 + 0.6 * 0.321872)) = 1.133467 = kyz
+//   IR,y = 0.156802 + 0.966699 * 90/1569.455 + kyz * 22.5/213.1775: 0.29951 -> "0.30" / 0.33187 -> "0.33"
+//   IR,z = 0.321872 + 0.580020 * 0.057345 + kzz * 0.105546: 0.50059 -> "0.50" / 0.47477 -> "0.47"
+State GeneralClassOneAboutYThreeAboutZ() {
+  State s = test::StartedState();
+  Do(s, "mnup41");
+  Do(s, "p41.cboclassMz", "2");
+  Do(s, "il", "6");
+  Do(s, "CboLoadComb", "5");
+  Do(s, "Loading.inn(1)", "1000");
+  Do(s, "Loading.iq(1)", "20");
+  Do(s, "ch_vipp", "0");
+  Do(s, "Loading.ch_q(2)", "1");
+  Do(s, "Loading.iq_yz(2)", "0");
+  Do(s, "Loading.iq(2)", "5");
+  return s;
+}
+
+TEST(StrictRules, MethodTwoTakesTheLowSlendernessLineAndEachAxisOwnClass) {
+  const test::Tolerance hand{5e-6, "hand values carried to six decimals"};
+  for (bool strict : {false, true}) {
+    SCOPED_TRACE(strict ? "strict" : "as specified");
+    State s = test::Heb200("1", "500", "200");
+    if (strict) Do(s, "setup.strict", "1");
+    EXPECT_TRUE(Near(s.checks.lamdaz, 0.258395, hand));
+    EXPECT_TRUE(Near(s.checks.kzy, strict ? 0.858395 : 0.993138, hand));
+    EXPECT_EQ(s.checks.buckTextZ.Ratio, strict ? "0.28" : "0.29");
+
+    State g = GeneralClassOneAboutYThreeAboutZ();
+    if (strict) Do(g, "setup.strict", "1");
+    const Checks& k = g.checks;
+    ASSERT_EQ(g.section.classMy, 1);
+    ASSERT_EQ(g.section.classMz, 3);
+    EXPECT_TRUE(Near(k.kyy, 0.966699, hand));
+    EXPECT_TRUE(Near(k.kzy, 0.580020, hand));
+    EXPECT_TRUE(Near(k.kzz, strict ? 1.133467 : 1.378090, hand));
+    EXPECT_TRUE(Near(k.kyz, strict ? 1.133467 : 0.826854, hand));
+    EXPECT_EQ(k.buckTextY.Ratio, strict ? "0.33" : "0.30");
+    EXPECT_EQ(k.buckTextZ.Ratio, strict ? "0.47" : "0.50");
   }
 }
 
