@@ -6,6 +6,7 @@
 #include "analysis/member_analysis.h"
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -85,7 +86,8 @@ void Inflections(const std::array<Single, 51>& M, Single& first, Single& second)
   second = find(25, 49);
 }
 
-void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis, MomentShape& sh) {
+void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis, MomentShape& sh,
+                   bool spanPeak) {
   // The inner peak: the largest magnitude in 12..38, the first one on a tie.
   int ki = 0;
   double best = 0;
@@ -125,9 +127,12 @@ void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zA
 
   sh.Psi = PsiOf(f);
 
-  // The larger end moment by magnitude, M5 on a tie. About z the inner moment is the peak Mi.
+  // The larger end moment by magnitude, M5 on a tie. About z the inner moment is the peak Mi; about
+  // y the program's own method takes the midspan value M3, which under a load off the middle (a
+  // propped cantilever) is below the span's extreme moment Ms of Table B.3. The strict rules take
+  // the peak about y too.
   const double endMoment = std::fabs(M1) > std::fabs(M5) ? M1 : M5;
-  const double inner = zAxis ? Mi : M3;
+  const double inner = zAxis || spanPeak ? Mi : M3;
   if (sh.MidDominates) {
     sh.AlphaH = ToSingle(inner == 0 ? 0.0 : Div(endMoment, inner));
   } else {
@@ -183,7 +188,7 @@ void ForceExtremes(State& s) {
   an.MyAbs = std::max(std::fabs(an.MyMax), std::fabs(an.MyMin));
   an.MzAbs = std::max(std::fabs(an.MzMax), std::fabs(an.MzMin));
 
-  MomentShapeOf(an.MyGrid, an.PointsY, false, an.ShapeY);
+  MomentShapeOf(an.MyGrid, an.PointsY, false, an.ShapeY, StrictRules(s));
   MomentShapeOf(an.MzGrid, an.PointsZ, true, an.ShapeZ);
 }
 

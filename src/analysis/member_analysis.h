@@ -63,8 +63,10 @@ Single PsiOf(const FivePoints& f);
 // x/L of the last change of sign in each half of the member, 0 when none.
 void Inflections(const std::array<Single, 51>& M, Single& first, Single& second);
 // Curved, MidDominates, Linear, Psi and AlphaS or AlphaH of a moment diagram; zAxis takes the
-// rules of the z diagram (inner moment the peak, open band of Linear).
-void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis, MomentShape& sh);
+// rules of the z diagram (inner moment the peak, open band of Linear). spanPeak takes the peak as
+// the inner moment of AlphaS and AlphaH also for y (the strict rules, Annex B Table B.3).
+void MomentShapeOf(const std::array<Single, 51>& M, const FivePoints& f, bool zAxis, MomentShape& sh,
+                   bool spanPeak = false);
 
 // ---- End force mode (end_forces.cpp) ----
 

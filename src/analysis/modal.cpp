@@ -5,6 +5,7 @@
 #include "core/format.h"
 #include "core/pipeline.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -29,7 +30,18 @@ void ModalAnalysis(State& s) {
 
   // The user's uniform loads whatever their case and direction (102 kg per kN), plus the section
   // weight, also without the selfweight switch.
-  const double q = static_cast<double>(l.uniform[1].q) + l.uniform[2].q + l.uniform[3].q + l.uniform[4].q;
+  // The program's own method counts a variable load in full. The strict rules take the mass of the
+  // quasi-permanent combination of EN 1990, G + psi2 Q: a G load in full, a Q1 or Q2 load times the
+  // psi of its list. Those lists hold the combination values psi0 of Eq 6.10a, and psi2 <= psi0 for
+  // every category of EN 1990 Table A1.1, so that the mass is never below the quasi-permanent one and
+  // the frequency never above the standard's: with no psi2 of its own the member errs on the low side.
+  const bool strict = StrictRules(s);
+  double q = 0;
+  for (int i = 1; i <= 4; ++i) {
+    const UniformLoad& u = l.uniform[i];
+    const double psi = !strict || u.Case == 0 ? 1.0 : u.Case == 1 ? p.psiQ1 : p.psiQ2;
+    q += psi * u.q;
+  }
   an.ModalMass = ToSingle(102 * q + s.section.g);
   v.text["Modal_ns.massa"] = "Mass: m = " + FormatNumber(an.ModalMass, "#0", dc) + " kg/m";
 

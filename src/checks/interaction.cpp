@@ -11,7 +11,9 @@
 //  - npl divides by NcRd, with gammaM0;
 //  - when nothing acts in one plane, Method 2 reads that plane's shape flags from the other one;
 //  - in end force mode a low Cmz (below 0.4) puts 0.4 into Cmy and keeps its own low value;
-//  - CmLT of Method 1 reads Ncr,TF where Table A.1 has Ncr,T.
+//  - CmLT of Method 1 reads Ncr,TF where Table A.1 has Ncr,T;
+//  - alpha,s and alpha,h about y take the midspan moment, not the span's extreme one (Table B.3);
+//  - a sway member (the cantilever) takes Cm from its diagram, not 0.9 (Table B.3, note).
 // The strict rules (StrictRules) replace those of them that the standard settles otherwise.
 #include <algorithm>
 #include <cmath>
@@ -258,6 +260,13 @@ void EquivalentMomentB(State& s) {
   k.Cmy = CmOfTableB3(fy.Curved != 0, fy.MidDominates != 0, fy.Linear != 0, an.ShapeY);
   k.CmLt = s.section.ltbRelevant == -1 ? k.Cmy : 1;
   k.Cmz = CmOfTableB3(fz.Curved != 0, fz.MidDominates != 0, fz.Linear != 0, an.ShapeZ);
+  // A member with a sway buckling mode takes Cmy = Cmz = 0.9 (Table B.3, note). The cantilever's
+  // free end sways in both planes; CmLT stays with the moment diagram, which is what it measures
+  // between the braced points. The program's own method takes the diagram for Cmy and Cmz as well.
+  if (StrictRules(s) && s.project.AnalysisMode == 1 && s.project.SupportType == 4) {
+    k.Cmy = 0.9;
+    k.Cmz = 0.9;
+  }
 }
 
 void EquivalentMomentBEnd(State& s) {
@@ -281,7 +290,13 @@ void FactorsMethod2(State& s) {
   const double n = s.analysis.NEd;
   const double ny = Div(n, k.NbyRd), nz = Div(n, k.NbzRd);
   const double Cmy = k.Cmy, Cmz = k.Cmz;
-  if (c.classMy > 2) {  // Table B.1, elastic
+  // The program's own method takes the class about y for all four factors. Under the strict rules
+  // each pair of factors takes the class of its own moment (Tables B.1 and B.2): kyy and kzy that of
+  // My, kzz and kyz that of Mz.
+  const bool strict = StrictRules(s);
+  const bool elasticY = c.classMy > 2;
+  const bool elasticZ = strict ? c.classMz > 2 : elasticY;
+  if (elasticY) {  // Table B.1, elastic
     k.kyy = std::min(Cmy * (1 + 0.6 * k.lamday * ny), Cmy * (1 + 0.6 * ny));
     if (p.ltbOn == 0) {
       k.kzy = 0.8 * k.kyy;
@@ -289,16 +304,25 @@ void FactorsMethod2(State& s) {
       const double d = k.CmLt - 0.25;
       k.kzy = std::max(1 - Div(0.05 * k.lamdaz, d) * nz, 1 - Div(0.05, d) * nz);
     }
-    k.kzz = std::min(Cmz * (1 + 0.6 * k.lamdaz * nz), Cmz * (1 + 0.6 * nz));
-    k.kyz = k.kzz;
   } else {  // plastic
     k.kyy = std::min(Cmy * (1 + (k.lamday - 0.2) * ny), Cmy * (1 + 0.8 * ny));
     if (p.ltbOn == 0) {
       k.kzy = 0.6 * k.kyy;
     } else {
       const double d = k.CmLt - 0.25;
-      k.kzy = std::max(1 - Div(0.1 * k.lamdaz, d) * nz, 1 - Div(0.1, d) * nz);
+      const double first = 1 - Div(0.1 * k.lamdaz, d) * nz;
+      // Table B.2 has its own line for lamda,z < 0.4: kzy = 0.6 + lamda,z, at most the first form.
+      // The program's own method keeps the first form, bounded below, at every slenderness.
+      if (strict && k.lamdaz < 0.4)
+        k.kzy = std::min(0.6 + k.lamdaz, first);
+      else
+        k.kzy = std::max(first, 1 - Div(0.1, d) * nz);
     }
+  }
+  if (elasticZ) {
+    k.kzz = std::min(Cmz * (1 + 0.6 * k.lamdaz * nz), Cmz * (1 + 0.6 * nz));
+    k.kyz = k.kzz;
+  } else {
     if (iSection)
       k.kzz = std::min(Cmz * (1 + (2 * k.lamdaz - 0.6) * nz), Cmz * (1 + 1.4 * nz));
     else

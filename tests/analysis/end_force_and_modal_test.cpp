@@ -146,6 +146,31 @@ TEST(Modal, CountsAllUniformLoadsAndTheSectionWeightButNothingElse) {
   EXPECT_FLOAT_EQ(s.analysis.ModalMass, 858.2f);
 }
 
+// The strict rules: the mass of the quasi-permanent combination of EN 1990, G + psi Q, with the psi of
+// each variable load's list (psi0, an upper bound of psi2). G 10 kN/m, Q1 10 kN/m with psi 0.7, Q2
+// 5 kN/m in y with psi 0.3, on the IPE 300 of 6 m above:
+//   as specified: m = 102 * (10 + 10 + 5) + 42.2 = 2592.2 kg/m; sqrt(1.75476E7/(1296 * 2592.2))
+//                 = 2.285452, f1 = 1.57 * 2.285452 = 3.5882 Hz
+//   strict:       m = 102 * (10 + 0.7 * 10 + 0.3 * 5) + 42.2 = 1929.2 kg/m; sqrt(1.75476E7/(1296 *
+//                 1929.2)) = 2.649218, f1 = 4.1593 Hz, f2 = 16.6371 Hz, f3 = 37.3540 Hz
+TEST(Modal, TheStrictRulesTakeTheQuasiPermanentMass) {
+  State s = ModalState(0);
+  AddUniform(s, 2, 10, 1, 1);
+  AddUniform(s, 3, 5, 0, 2);
+  s.project.psiQ1 = 0.7f;
+  s.project.psiQ2 = 0.3f;
+  ModalAnalysis(s);
+  EXPECT_FLOAT_EQ(s.analysis.ModalMass, 2592.2f);
+  EXPECT_EQ(s.view.text["Modal_ns.mod1"], "Mode 1: 3.59 Hz/0.28s");
+  s.project.strictRules = True;
+  ModalAnalysis(s);
+  EXPECT_FLOAT_EQ(s.analysis.ModalMass, 1929.2f);
+  EXPECT_EQ(s.view.text["Modal_ns.massa"], "Mass: m = 1929 kg/m");
+  EXPECT_EQ(s.view.text["Modal_ns.mod1"], "Mode 1: 4.16 Hz/0.24s");
+  EXPECT_EQ(s.view.text["Modal_ns.mod2"], "Mode 2: 16.64 Hz/0.06s");
+  EXPECT_EQ(s.view.text["Modal_ns.mod3"], "Mode 3: 37.35 Hz/0.03s");
+}
+
 TEST(Modal, UsesBendingAboutYOnly) {
   State s = ModalState(2);
   ModalAnalysis(s);

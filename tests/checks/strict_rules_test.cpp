@@ -9,6 +9,7 @@ namespace vn {
 namespace {
 
 using test::Do;
+using test::Near;
 
 // UB 457x191x98, S275 (fy = 275 for tf = 19.6 mm), L = 5 m, N = 1400 kN, q = 10 kN/m: My = 31.25 kNm.
 // epsilon = sqrt(235/275) = 0.924402. Web: d/tw = 407.6/11.4 = 35.754; flange c/tf = 80.5/19.6 = 4.11.
@@ -91,6 +92,121 @@ TEST(StrictRules, AFavourablePermanentLoadTakesGammaGInfAndTheLargerEffectGovern
   Do(s, "Loading.iq(2)", "6");
   EXPECT_NEAR(s.analysis.MyGov, 52.65, 0.01);
   EXPECT_EQ(s.analysis.permanentFavourable, False);
+}
+
+// Annex B, Table B.3, on the HEB 200 S355 of interaction_test.cpp under N = 500 kN and q = 20 kN/m
+// in z, Method 2: lamda,y = 0.612914, lamda,z = 1.033580, n/Nb,y = 500/2302.086 = 0.217195,
+// n/Nb,z = 500/1443.305 = 0.346427; class 1, LT on: kyy = Cmy (1 + 0.412914 * 0.217195)
+// = 1.089683 Cmy (below the cap 1.173756 Cmy), kzy = max(1 - 0.1 lamda,z/(CmLT - 0.25) n/Nb,z,
+// 1 - 0.1/(CmLT - 0.25) n/Nb,z) of Table B.2.
+//
+// Pinned at x = 0 and fixed at x = L, L = 4 m (Lcr = 4 m): M(x) = 3/8 q L x - q x^2/2; at the ends
+// M1 = 0, M5 = -q L^2/8 = -40 kNm; at midspan M3 = 20 kNm; the span's extreme on the grid at
+// x = 19/50 L: (3 * 19/400 - 19^2/5000) q L^2 = 0.0703 * 320 = 22.496 kNm. |M5| > |M3|: alpha,s.
+//   as specified: alpha,s = M3/M5 = -0.5;     Cmy = 0.1 - 0.8 * -0.5 = 0.5 (q-load, psi = 0)
+//                 kyy = 0.544842; kzy = max(0.856776, 1 - 0.1/0.25 * 0.346427 = 0.861429)
+//   strict:       alpha,s = 22.496/-40 = -0.5624; Cmy = 0.1 + 0.44992 = 0.54992
+//                 kyy = 0.599239; kzy = max(0.880615, 1 - 0.1/0.29992 * 0.346427 = 0.884493)
+// Cantilever, L = 2 m, k = 2 about both axes (Lcr = 4 m): M(x) = -q (L - x)^2/2, M1 = -40 kNm,
+// M5 = 0, M3 = -10 kNm, the peak in 12..38 at x = 12/50 L: -10 * 1.52^2 = -23.104 kNm.
+//   as specified: alpha,s = -10/-40 = 0.25; Cmy = 0.2 + 0.8 * 0.25 = 0.4 = CmLT
+//                 kyy = 0.435873; kzy = max(1 - 0.1 * 1.03358/0.15 * 0.346427, 1 - 0.1/0.15 * 0.346427)
+//                 = max(0.761296, 0.769049) = 0.769049
+//   strict:       the free end sways: Cmy = Cmz = 0.9 (Table B.3, note): kyy = 0.980715;
+//                 CmLT from the diagram, alpha,s = -23.104/-40 = 0.5776: CmLT = 0.66208,
+//                 kzy = max(1 - 0.086890, 1 - 0.1/0.41208 * 0.346427 = 0.915932)
+TEST(StrictRules, TableB3TakesTheSpansExtremeMomentAndCmOfASwayMember) {
+  const test::Tolerance grid{2e-5, "moments of the grid summed in 32-bit floats"};
+  const struct {
+    const char* support;
+    const char* L;
+    const char* k;
+    double Cmy, CmLt, kyy, kzy;
+    const char* kyyText;
+  } rows[] = {
+      {"cbutt1", "4", "1", 0.5, 0.5, 0.544842, 0.861429, "+0.54*"},
+      {"cbutt1", "4", "1", 0.54992, 0.54992, 0.599239, 0.884493, "+0.60*"},
+      {"cbutt4", "2", "2", 0.4, 0.4, 0.435873, 0.769049, "+0.44*"},
+      {"cbutt4", "2", "2", 0.9, 0.66208, 0.980715, 0.915932, "+0.98*"},
+  };
+  for (int i = 0; i < 4; ++i) {
+    const auto& r = rows[i];
+    const bool strict = i % 2 == 1;
+    State s = test::Heb200(r.L, "500", "20");
+    Do(s, "setup.rbtnMethod2");
+    Do(s, r.support);
+    Do(s, "ibly", r.k);
+    Do(s, "iblz", r.k);
+    if (strict) Do(s, "setup.strict", "1");
+    const Checks& k = s.checks;
+    SCOPED_TRACE(std::string(r.support) + (strict ? " strict" : " as specified"));
+    EXPECT_TRUE(test::Near(k.Cmy, r.Cmy, grid));
+    EXPECT_TRUE(test::Near(k.CmLt, r.CmLt, grid));
+    EXPECT_TRUE(test::Near(k.kyy, r.kyy, grid));
+    EXPECT_TRUE(test::Near(k.kzy, r.kzy, grid));
+    EXPECT_NE(k.buckTextY.Numbers.find(r.kyyText), std::string::npos) << k.buckTextY.Numbers;
+  }
+}
+
+// Method 2, Table B.2's line for lamda,z < 0.4: HEB 200 S355, 1 m pinned, N = 500 kN, q = 200 kN/m
+// (My = 25 kNm), LT on, class 1. Ncr,z = 2594.657 * 16 = 41514.5 kN, lamda,z = 1.033580/4 = 0.258395;
+// curve c: Phi = 0.5 (1 + 0.49 * 0.058395 + 0.066768) = 0.547691, chi,z = 1/(0.547691 + 0.482905)
+// = 0.970312, Nb,z,Rd = 2689.55 kN, n/Nb,z = 0.185904; CmLT = 0.95 (q-load).
+//   as specified: kzy = max(1 - 0.1 * 0.258395/0.7 * 0.185904, 1 - 0.1/0.7 * 0.185904)
+//                 = max(0.993138, 0.973442) = 0.993138
+//   strict:       kzy = 0.6 + 0.258395 = 0.858395, at most 0.993138
+//   IR,z = 0.185904 + kzy * 25/228.104 (x,LT = 1): 0.29475 -> "0.29" / 0.27998 -> "0.28"
+// Each axis' own class, Tables B.1 and B.2: the general section of the dialog (A = 18720,
+// Iy = 1.185E9, Iz = 9.008E7, Wpl,y = 4421000, Wel,z = 600500, curves b and c, tmax 40 mm) with
+// class 1 about y and class 3 about z, 6 m, N = 1000 kN, q = 20 kN/m in z and 5 kN/m in y (My = 90,
+// Mz = 22.5 kNm), LT off, Cmz = 0.95:
+//   Ncr,z = pi^2 * 210000 * 9.008E7/6000^2 = 5186.148 kN, lamda,z = sqrt(6645600/5186148) = 1.131995,
+//   Phi = 0.5 (1 + 0.49 * 0.931995 + 1.281414) = 1.369046, chi,z = 0.467502, Nb,z,Rd = 3106.83 kN,
+//   n/Nb,z = 0.321872; lamda,y = 0.312104, chi,y = 0.959650, n/Nb,y = 0.156802,
+//   kyy = 0.95 (1 + 0.112104 * 0.156802) = 0.966699, kzy = 0.6 kyy = 0.580020
+//   as specified (class of y, plastic): kzz = min(0.95 (1 + 1.663990 * 0.321872),
+//                 0.95 (1 + 1.4 * 0.321872)) = min(1.458812, 1.378090) = 1.378090, kyz = 0.6 kzz = 0.826854
+//   strict (class 3 about z, elastic): kzz = min(0.95 (1 + 0.6 * 1.131995 * 0.321872),
+//                 0.95 (1 + 0.6 * 0.321872)) = 1.133467 = kyz
+//   IR,y = 0.156802 + 0.966699 * 90/1569.455 + kyz * 22.5/213.1775: 0.29951 -> "0.30" / 0.33187 -> "0.33"
+//   IR,z = 0.321872 + 0.580020 * 0.057345 + kzz * 0.105546: 0.50059 -> "0.50" / 0.47477 -> "0.47"
+State GeneralClassOneAboutYThreeAboutZ() {
+  State s = test::StartedState();
+  Do(s, "mnup41");
+  Do(s, "p41.cboclassMz", "2");
+  Do(s, "il", "6");
+  Do(s, "CboLoadComb", "5");
+  Do(s, "Loading.inn(1)", "1000");
+  Do(s, "Loading.iq(1)", "20");
+  Do(s, "ch_vipp", "0");
+  Do(s, "Loading.ch_q(2)", "1");
+  Do(s, "Loading.iq_yz(2)", "0");
+  Do(s, "Loading.iq(2)", "5");
+  return s;
+}
+
+TEST(StrictRules, MethodTwoTakesTheLowSlendernessLineAndEachAxisOwnClass) {
+  const test::Tolerance hand{5e-6, "hand values carried to six decimals"};
+  for (bool strict : {false, true}) {
+    SCOPED_TRACE(strict ? "strict" : "as specified");
+    State s = test::Heb200("1", "500", "200");
+    if (strict) Do(s, "setup.strict", "1");
+    EXPECT_TRUE(Near(s.checks.lamdaz, 0.258395, hand));
+    EXPECT_TRUE(Near(s.checks.kzy, strict ? 0.858395 : 0.993138, hand));
+    EXPECT_EQ(s.checks.buckTextZ.Ratio, strict ? "0.28" : "0.29");
+
+    State g = GeneralClassOneAboutYThreeAboutZ();
+    if (strict) Do(g, "setup.strict", "1");
+    const Checks& k = g.checks;
+    ASSERT_EQ(g.section.classMy, 1);
+    ASSERT_EQ(g.section.classMz, 3);
+    EXPECT_TRUE(Near(k.kyy, 0.966699, hand));
+    EXPECT_TRUE(Near(k.kzy, 0.580020, hand));
+    EXPECT_TRUE(Near(k.kzz, strict ? 1.133467 : 1.378090, hand));
+    EXPECT_TRUE(Near(k.kyz, strict ? 1.133467 : 0.826854, hand));
+    EXPECT_EQ(k.buckTextY.Ratio, strict ? "0.33" : "0.30");
+    EXPECT_EQ(k.buckTextZ.Ratio, strict ? "0.47" : "0.50");
+  }
 }
 
 }  // namespace

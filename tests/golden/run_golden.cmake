@@ -6,6 +6,8 @@
 #   expected.txt         the expected standard output, or the text of the output file
 #   expected-stderr.txt  the expected standard error (absent: none)
 #   status               the expected exit status (absent: 0)
+#   mask                 (optional) line prefixes, one a line (e.g. "Date:"): the rest of an output
+#                        line that starts with one reads "*", for texts that change from run to run
 # With -DUPDATE=1 or the environment variable VARNELT_GOLDEN_UPDATE=1 the files are rewritten from
 # the program's output instead.
 #
@@ -69,6 +71,14 @@ foreach(case IN LISTS entries)
     if(NOT EXISTS "${actualOut}")
       file(WRITE "${actualOut}" "(the run wrote no file ${outputName})\n")
     endif()
+  endif()
+  if(EXISTS "${dir}/mask")
+    file(STRINGS "${dir}/mask" prefixes)
+    file(READ "${actualOut}" text)
+    foreach(prefix IN LISTS prefixes)
+      string(REGEX REPLACE "(^|\n)${prefix}[^\n]*" "\\1${prefix}*" text "${text}")
+    endforeach()
+    file(WRITE "${actualOut}" "${text}")
   endif()
   set(actualErr "${scratch}/.stderr")
   set(empty "${scratch}/.empty")
