@@ -96,10 +96,17 @@ void MoveRecentToTop(State& s, int index, const std::string& path) {
   SetRecent(s, 1, path);
 }
 
-EventResult OpenAction(State& s, const std::string& path) {
+EventResult OpenAction(State& s, const std::string& path, FileResult* readResult) {
   if (path.empty()) return EventResult{};  // cancelled
   Project& p = s.project;
-  FileResult result;
+  FileResult result = FileResult::NotFound;
+  struct Tell {
+    FileResult& result;
+    FileResult* out;
+    ~Tell() {
+      if (out) *out = result;
+    }
+  } tell{result, readResult};
   if (path == p.fileName) {
     result = ReadProject(s, path);
   } else {

@@ -466,6 +466,9 @@ FileResult ReadProject(State& s, const std::string& path) {
   try {
     Integer version = 0;
     io.Int(version);
+    // A project file begins with its version number (the format's own, or an earlier one): a
+    // text that begins with any other number is no project, however many values follow.
+    if (version < 1 || version > kProjectVersion) return FileResult::OtherError;
     WalkProject(io, s, version);
   } catch (const PastEndError&) {
     return FileResult::PastEnd;
