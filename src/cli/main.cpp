@@ -79,12 +79,13 @@ const char* kUsage =
     "     unreadable, a file that can't be written\n"
     "\n"
     "Examples:\n"
-    "  A beam: IPE 360 in S275, 6.5 m, simply supported, 12 kN/m; summary and detailed results\n"
+    "  A beam: IPE 360 in S275, 6.5 m, simply supported, 12 kN/m and no axial force; the summary\n"
+    "  and the detailed results\n"
     "    varnelt-cli --do mnup04 --do p04.cbo=\"IPE 360\" --do cbofyk=S275 --do il=6.5 \\\n"
-    "                --do \"Loading.iq(1)=12\" --summary --detail\n"
-    "  A column: HEB 200, 4 m, 800 kN, fixed at both ends; the state as JSON\n"
+    "                --do \"Loading.iq(1)=12\" --do \"Loading.inn(1)=0\" --summary --detail\n"
+    "  A column: HEB 200, 4 m, 800 kN, no lateral load, fixed at both ends; the state as JSON\n"
     "    varnelt-cli --do mnup02 --do p02.cbo=HEB200 --do il=4 --do cbutt2 \\\n"
-    "                --do \"Loading.inn(1)=800\" --json\n"
+    "                --do \"Loading.inn(1)=800\" --do \"Loading.iq(1)=0\" --json\n"
     "  A project file, its stability report, its table exported to a workbook\n"
     "    varnelt-cli beam.vnt --report stability --xlsx beam.xlsx\n";
 

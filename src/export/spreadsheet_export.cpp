@@ -5,13 +5,13 @@
 #include <xlsxwriter.h>
 
 #include <cctype>
-#include <cmath>
-#include <cstdlib>
-#include <map>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <map>
 
 #include "core/state.h"
 
