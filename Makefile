@@ -37,8 +37,14 @@ configure: deps $(BUILD)/build.ninja
 build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
-# The desktop program; with no display at hand it runs on a virtual one (xvfb-run).
-run: build
+# The desktop program; with no display at hand it runs on a virtual one (xvfb-run). Only the program
+# that starts is built (with the data files beside it), not the tests and benchmarks.
+run: configure
+	@if grep -q '^build bin/varnelt:' $(BUILD)/build.ninja; then \
+	  cmake --build $(BUILD) -j $(JOBS) --target varnelt; \
+	else \
+	  cmake --build $(BUILD) -j $(JOBS) --target varnelt-cli; \
+	fi
 	@if [ ! -x $(BUILD)/bin/varnelt ]; then \
 	  echo "The desktop program was not built (no Qt 6): the command line instead."; \
 	  $(BUILD)/bin/varnelt-cli; \

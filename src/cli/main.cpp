@@ -1,11 +1,5 @@
 // varnelt-cli: the system without forms. Starts as the program does, fires events by control name,
-// and prints the state, the summary or the project.
-//
-//   varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [--json | --summary | --detail] [--save PATH]
-//               [--xlsx PATH] [--csv PATH] [--svg DIR]
-//
-// Exit status: 0 done; 2 an event was refused; 3 a file error; 1 the last run ended in the
-// calculation error.
+// and prints the state, the summary or the project. kUsage below is the manual.
 #include <unistd.h>
 #include <ctime>
 
@@ -18,9 +12,13 @@
 #include <string>
 #include <vector>
 
+#include "cli/cli_controls.h"
 #include "cli/project_text.h"
 #include "core/events.h"
+#include "core/file_actions.h"
+#include "core/format.h"
 #include "core/json.h"
+#include "core/project_file.h"
 #include "core/safe_file.h"
 #include "core/startup.h"
 #include "core/state.h"
@@ -29,27 +27,67 @@
 #include "results/detail_table.h"
 #include "results/report.h"
 #include "results/summary.h"
+#include "sections/section_dialogs.h"
+
+#ifndef VARNELT_VERSION
+#define VARNELT_VERSION "unknown"
+#endif
 
 namespace {
 
 const char* kUsage =
-    "usage: varnelt-cli [PROJECT.vnt] [options]\n"
-    "  --do CONTROL[=TEXT]  fire one event of a form control, e.g. --do il=6,0 --do cbutt2\n"
-    "                       --do p04.cbo=9 --do \"Loading.iq(1)=12\" (repeatable, run in order)\n"
-    "  --json               print the whole state as JSON\n"
-    "  --summary            print the summary of controls\n"
-    "  --detail             print the table of detailed results\n"
-    "  --report KIND        print the report \"section\" (Section Property and Capacity) or\n"
-    "                       \"stability\" (Section and Stability Control) as text\n"
+    "usage: varnelt-cli [PROJECT.vnt] [--do CONTROL[=TEXT]]... [OUTPUT]... [FILES]\n"
+    "\n"
+    "Starts as the desktop program does (a new project, the data files of its own folder), opens\n"
+    "PROJECT.vnt if given, fires the events in the order given, then prints the outputs asked for,\n"
+    "in the order given. With no output asked for it prints the project: the member, its loading\n"
+    "and the summary of controls.\n"
+    "\n"
+    "Events:\n"
+    "  --do CONTROL[=TEXT]  fire one event of a form control (repeatable, run in order):\n"
+    "                       a field with the text typed (--do il=6.5, --do \"Loading.iq(1)=12\"),\n"
+    "                       a button or menu entry (--do cbutt2, --do mnup04), a check box with\n"
+    "                       1 or 0, a list with the index of its entry, counted from 0, or the\n"
+    "                       entry's text (--do cbofyk=2 or --do cbofyk=S275, --do p04.cbo=\"IPE 360\").\n"
+    "                       Controls of a dialog are dialog.control, slots of an array control(i).\n"
+    "Outputs (several may be given; each is printed once, in the order given):\n"
+    "  --json               the whole state as JSON\n"
+    "  --summary            the summary of controls\n"
+    "  --detail             the table of detailed results (More Results)\n"
+    "  --report KIND        the printed report as text: section (Section Property and Capacity)\n"
+    "                       or stability (Section and Stability Control)\n"
+    "  --project            the project as text (what is printed when no output is asked for)\n"
+    "  --controls           every control with its kind, dialog, unit and limits (with --json as\n"
+    "                       JSON); a list's entries are given by --do with a text it does not hold\n"
+    "Files:\n"
     "  --save PATH          save the project to PATH\n"
-    "  --xlsx PATH          write the table of detailed results to an .xlsx workbook\n"
+    "  --xlsx PATH          write the table of detailed results as an .xlsx workbook\n"
     "  --csv PATH           write the table of detailed results as comma-separated text\n"
-    "  --svg DIR            write every picture drawn (charts, figures) as DIR/<name>.svg\n"
-    "  --decimal-comma      parse and print numbers as a decimal-comma locale does\n"
-    "  --decimal-point      parse and print numbers as a decimal-point locale does\n"
+    "  --svg DIR            write every picture on show (charts, figures) as DIR/<name>.svg\n"
+    "Settings:\n"
+    "  --decimal-comma      read and print numbers with a decimal comma (default: the locale's)\n"
+    "  --decimal-point      read and print numbers with a decimal point\n"
     "  --data DIR           read the data files from DIR instead of the program's folder\n"
-    "  --controls           list the names of all controls\n"
-    "  --help               this text\n";
+    "  --help, --version\n"
+    "\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  the calculation ended in its error message; the results are not printed\n"
+    "  2  an event was refused (its message on stderr, the later events not run), an unknown\n"
+    "     control or option, or a list text that names no entry\n"
+    "  3  a file error: a project file missing or not a project, a data file missing or\n"
+    "     unreadable, a file that can't be written\n"
+    "\n"
+    "Examples:\n"
+    "  A beam: IPE 360 in S275, 6.5 m, simply supported, 12 kN/m and no axial force; the summary\n"
+    "  and the detailed results\n"
+    "    varnelt-cli --do mnup04 --do p04.cbo=\"IPE 360\" --do cbofyk=S275 --do il=6.5 \\\n"
+    "                --do \"Loading.iq(1)=12\" --do \"Loading.inn(1)=0\" --summary --detail\n"
+    "  A column: HEB 200, 4 m, 800 kN, no lateral load, fixed at both ends; the state as JSON\n"
+    "    varnelt-cli --do mnup02 --do p02.cbo=HEB200 --do il=4 --do cbutt2 \\\n"
+    "                --do \"Loading.inn(1)=800\" --do \"Loading.iq(1)=0\" --json\n"
+    "  A project file, its stability report, its table exported to a workbook\n"
+    "    varnelt-cli beam.vnt --report stability --xlsx beam.xlsx\n";
 
 std::string ProgramFolder(const char* argv0) {
   char buf[PATH_MAX];
@@ -68,11 +106,22 @@ std::pair<double, double> PictureSize(const std::string& name) {
   return {220, 220};  // the section figures and Picture4 are square
 }
 
-// Writes each picture as DIR/<name>.svg; false with a message when the folder can't be written.
+// Writes each picture on show as DIR/<name>.svg; false with a message when one can't be written.
+// Only the current family's section figure is written (a figure drawn for an earlier section is
+// no longer on show), and a chart with nothing drawn gives a note on stderr instead of an empty file.
 bool WritePictures(const vn::State& s, const std::string& dir, std::string* error) {
   std::error_code ec;
   std::filesystem::create_directories(dir, ec);
+  const vn::SectionDialogInfo* current = vn::SectionDialogOfType(s.project.ProfileType);
   for (const auto& [name, drawing] : s.view.pictures) {
+    if (const auto dot = name.find('.'); dot != std::string::npos &&
+                                         vn::SectionDialogOfForm(name.substr(0, dot)) &&
+                                         (!current || name.substr(0, dot) != current->form))
+      continue;
+    if (drawing.empty()) {
+      std::cerr << "varnelt-cli: " << name << " has nothing to show; no file written\n";
+      continue;
+    }
     const auto [w, h] = PictureSize(name);
     vn::draw::SvgCanvas svg(w, h);
     vn::draw::Replay(drawing, svg);
@@ -86,14 +135,28 @@ bool WritePictures(const vn::State& s, const std::string& dir, std::string* erro
   return true;
 }
 
+enum class Out { Project, Json, Summary, Detail, Report, Controls };
+struct Output {
+  Out kind;
+  vn::ReportKind report = vn::ReportKind::SectionCapacity;
+};
+
+std::string ReportNow(const vn::State& s, vn::ReportKind kind) {
+  const std::time_t now = std::time(nullptr);
+  char date[16], clock[16];
+  std::strftime(date, sizeof date, "%d.%m.%Y", std::localtime(&now));
+  std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));
+  return vn::ReportText(vn::BuildReport(s, kind, date, clock));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   std::string projectPath, savePath, dataDir, svgDir;
   std::optional<std::string> xlsxPath, csvPath;  // given, even empty: written (or refused)
   std::vector<std::string> events;
-  enum class Out { Project, Json, Summary, Detail, Report, Controls } out = Out::Project;
-  vn::ReportKind reportKind = vn::ReportKind::SectionCapacity;
+  std::vector<Output> outputs;
+  bool controls = false;
   int decimal = -1;  // -1 from the locale
   for (int i = 1; i < argc; ++i) {
     std::string a = argv[i];
@@ -109,21 +172,23 @@ int main(int argc, char** argv) {
     else if (a.rfind("--do=", 0) == 0)
       events.push_back(a.substr(5));
     else if (a == "--json")
-      out = Out::Json;
+      outputs.push_back({Out::Json});
     else if (a == "--summary")
-      out = Out::Summary;
+      outputs.push_back({Out::Summary});
     else if (a == "--detail")
-      out = Out::Detail;
+      outputs.push_back({Out::Detail});
+    else if (a == "--project")
+      outputs.push_back({Out::Project});
     else if (a == "--controls")
-      out = Out::Controls;
+      controls = true;
     else if (a == "--report") {
       const std::string kind = next("section or stability");
       if (kind != "section" && kind != "stability") {
         std::cerr << "varnelt-cli: --report takes section or stability, not " << kind << "\n";
         return 2;
       }
-      out = Out::Report;
-      reportKind = kind == "section" ? vn::ReportKind::SectionCapacity : vn::ReportKind::Stability;
+      outputs.push_back(
+          {Out::Report, kind == "section" ? vn::ReportKind::SectionCapacity : vn::ReportKind::Stability});
     } else if (a == "--save")
       savePath = next("PATH");
     else if (a == "--xlsx")
@@ -141,6 +206,9 @@ int main(int argc, char** argv) {
     else if (a == "--help" || a == "-h") {
       std::cout << kUsage;
       return 0;
+    } else if (a == "--version") {
+      std::cout << "varnelt-cli " VARNELT_VERSION "\n";
+      return 0;
     } else if (!a.empty() && a[0] == '-') {
       std::cerr << "varnelt-cli: unknown option " << a << "\n" << kUsage;
       return 2;
@@ -151,15 +219,32 @@ int main(int argc, char** argv) {
       return 2;
     }
   }
+  // --controls prints the listing, as text or (with --json) as JSON; other outputs beside it
+  // would be lost in it, so they are refused.
+  if (controls) {
+    bool json = false;
+    for (const Output& o : outputs) {
+      if (o.kind != Out::Json) {
+        std::cerr << "varnelt-cli: --controls prints the controls alone (or with --json as JSON); "
+                     "run the other outputs separately\n";
+        return 2;
+      }
+      json = true;
+    }
+    outputs = {{Out::Controls}};
+    if (json) outputs.push_back({Out::Json});  // marks the JSON form of the listing
+  }
+  if (outputs.empty() && !controls) outputs.push_back({Out::Project});
 
-  if (out == Out::Controls) {
-    for (const std::string& n : vn::Controls().Names()) std::cout << n << "\n";
-    return 0;
+  const std::string dataFolder = dataDir.empty() ? ProgramFolder(argv[0]) : dataDir;
+  if (const auto problems = vn::cli::DataFileProblems(dataFolder); !problems.empty()) {
+    for (const std::string& p : problems) std::cerr << "varnelt-cli: " << p << "\n";
+    return 3;
   }
 
   vn::State s;
   const bool comma = decimal < 0 ? vn::DetectDecimalComma() : decimal == 1;
-  vn::StartUp(s, dataDir.empty() ? ProgramFolder(argv[0]) : dataDir, comma);
+  vn::StartUp(s, dataFolder, comma);
   s.spreadsheet = vn::ExportDetailGrid;  // the export button of More Results
 
   if (!projectPath.empty()) {
@@ -174,6 +259,12 @@ int main(int argc, char** argv) {
     auto eq = e.find('=');
     std::string control = e.substr(0, eq);
     std::string text = eq == std::string::npos ? std::string() : e.substr(eq + 1);
+    std::string error;
+    if (!vn::cli::ResolveEventText(s, control, &text, &error)) {
+      std::cerr << error << "\n";
+      return 2;
+    }
+    if (const std::string w = vn::cli::NumberWarning(s, control, text); !w.empty()) std::cerr << w << "\n";
     vn::EventResult r = vn::Fire(s, control, text);
     if (!r.known) {
       std::cerr << "varnelt-cli: unknown control '" << control << "'\n";
@@ -190,6 +281,11 @@ int main(int argc, char** argv) {
     }
   }
 
+  if (controls) {
+    std::cout << (outputs.size() > 1 ? vn::cli::ControlsJson(s) + "\n" : vn::cli::ControlsText(s));
+    return 0;
+  }
+
   if (!savePath.empty()) {
     std::string error;
     if (!vn::cli::SaveProject(s, savePath, &error)) {
@@ -200,8 +296,9 @@ int main(int argc, char** argv) {
 
   // After a failed run there are no results: the summary, the tables and the reports give the
   // message alone, and no file is written.
-  const bool wantsResults =
-      xlsxPath || csvPath || out == Out::Summary || out == Out::Detail || out == Out::Report;
+  bool wantsResults = xlsxPath || csvPath;
+  for (const Output& o : outputs)
+    if (o.kind == Out::Summary || o.kind == Out::Detail || o.kind == Out::Report) wantsResults = true;
   if (wantsResults && !s.resultsValid) {
     std::cerr << s.view.txtError << "\n";
     return 1;
@@ -228,20 +325,15 @@ int main(int argc, char** argv) {
     }
   }
 
-  switch (out) {
-    case Out::Json: std::cout << vn::StateToJson(s) << "\n"; break;
-    case Out::Summary: std::cout << vn::SummaryText(s); break;
-    case Out::Detail: std::cout << vn::cli::DetailText(s); break;
-    case Out::Report: {
-      const std::time_t now = std::time(nullptr);
-      char date[16], clock[16];
-      std::strftime(date, sizeof date, "%d.%m.%Y", std::localtime(&now));
-      std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));
-      std::cout << vn::ReportText(vn::BuildReport(s, reportKind, date, clock));
-      break;
+  for (const Output& o : outputs) {
+    switch (o.kind) {
+      case Out::Json: std::cout << vn::StateToJson(s) << "\n"; break;
+      case Out::Summary: std::cout << vn::SummaryText(s); break;
+      case Out::Detail: std::cout << vn::cli::DetailText(s); break;
+      case Out::Report: std::cout << ReportNow(s, o.report); break;
+      case Out::Project: std::cout << vn::cli::ProjectText(s); break;
+      case Out::Controls: break;
     }
-    case Out::Project: std::cout << vn::cli::ProjectText(s); break;
-    case Out::Controls: break;
   }
   return s.view.txtErrorVisible ? 1 : 0;
 }

@@ -5,6 +5,7 @@
 
 #include "core/file_actions.h"
 #include "core/format.h"
+#include "core/project_file.h"
 #include "core/state.h"
 #include "results/detail_table.h"
 #include "results/summary.h"
@@ -31,7 +32,7 @@ const char* CaseText(double c) { return c == 0 ? kCases[0] : (c == 1.0 ? kCases[
 std::string ProjectText(const State& s) {
   const Project& p = s.project;
   std::ostringstream o;
-  auto f = [](double v, const char* pattern) { return FormatNumber(v, pattern); };
+  auto f = [&s](double v, const char* pattern) { return FormatNumber(v, pattern, s.decimalComma); };
   o << s.view.caption << "\n";
   o << "Project: " << p.projectName << "   Ident: " << p.projectIdent << "\n";
   std::string section = p.profileName;
@@ -124,9 +125,18 @@ std::string FileActionError(const EventResult& r) {
 }  // namespace
 
 bool OpenProject(State& s, const std::string& path, std::string* error) {
-  EventResult r = OpenAction(s, path);
-  if (r.refused) *error = FileActionError(r);
-  return !r.refused;
+  FileResult result = FileResult::Ok;
+  EventResult r = OpenAction(s, path, &result);
+  if (r.refused) {
+    *error = FileActionError(r);
+    return false;
+  }
+  // The form ends such a read silently; a script must not go on with the default project.
+  if (result != FileResult::Ok) {
+    *error = "varnelt-cli: " + path + " is not a project file of this program";
+    return false;
+  }
+  return true;
 }
 
 bool SaveProject(State& s, const std::string& path, std::string* error) {

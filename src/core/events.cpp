@@ -4,16 +4,21 @@
 #include <charconv>
 #include <initializer_list>
 #include <map>
+#include <optional>
 
 #include "core/control_registry.h"
 #include "core/format.h"
 #include "core/recalculate.h"
 #include "core/state.h"
 #include "design/design_basis.h"
+#include "sections/section_dialogs.h"
 
 namespace vn {
 
-void ControlTable::Add(ControlEntry e) { entries_.push_back(std::move(e)); }
+void ControlTable::Add(ControlEntry e) {
+  if (e.kind == ControlKind::Button) e.kind = KindOfName(e.name);
+  entries_.push_back(std::move(e));
+}
 
 const ControlEntry* ControlTable::Find(std::string_view control, int* index) const {
   std::string_view form, name = control;
@@ -215,11 +220,15 @@ namespace vn {
 
 void AddNumericField(ControlTable& t, const std::string& form, const std::string& name, NumericField f) {
   std::string self = form.empty() ? name : form + "." + name;
-  t.Add({form, name, -1, -1, [self, f](State& s, int, std::string_view text) {
-           EventResult r = RunNumericField(s, self, f, text);
-           s.view.text[self] = r.text;
-           return r;
-         }});
+  ControlEntry e{form, name, -1, -1, [self, f](State& s, int, std::string_view text) {
+                   EventResult r = RunNumericField(s, self, f, text);
+                   s.view.text[self] = r.text;
+                   return r;
+                 }};
+  e.kind = ControlKind::Field;
+  e.format = f.format;
+  e.limit = f.valid ? f.message : std::string();
+  t.Add(std::move(e));
 }
 
 void AddControl(ControlTable& t, const std::string& form, const std::string& name, ControlHandler run,
@@ -238,6 +247,133 @@ int ChoiceIndex(std::string_view text) {
   auto [ptr, ec] = std::from_chars(text.data(), text.data() + text.size(), v);
   if (ec != std::errc() || ptr != text.data() + text.size()) return -1;
   return v;
+}
+
+}  // namespace vn
+
+namespace vn {
+
+namespace {
+
+bool StartsWith(std::string_view s, std::string_view prefix) { return s.substr(0, prefix.size()) == prefix; }
+bool EndsWith(std::string_view s, std::string_view suffix) {
+  return s.size() >= suffix.size() && s.substr(s.size() - suffix.size()) == suffix;
+}
+
+// Case and blanks ignored: "IPE 360" and "ipe360" are the entry "IPE360".
+std::string Folded(std::string_view text) {
+  std::string out;
+  for (unsigned char ch : text)
+    if (!std::isspace(ch)) out += static_cast<char>(std::tolower(ch));
+  return out;
+}
+
+std::string_view Trimmed(std::string_view text) {
+  while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
+  while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
+  return text;
+}
+
+}  // namespace
+
+ControlKind KindOfName(std::string_view name) {
+  if (name == "Activate" || name == "Unload") return ControlKind::Event;
+  if (name == "iproj" || name == "iident" || name == "istname") return ControlKind::Text;
+  if (StartsWith(name, "ch_")) return ControlKind::CheckBox;
+  // The case, direction and P/M cells of the load rows are buttons that step through their values.
+  if (EndsWith(name, "_gq") || EndsWith(name, "_yz") || EndsWith(name, "_pm")) return ControlKind::Button;
+  if (name.size() > 1 && name[0] == 'i' && name != "items") return ControlKind::Field;
+  if (StartsWith(name, "mnu")) return ControlKind::Menu;
+  if (StartsWith(Folded(name), "cbo") && !StartsWith(name, "cbutt")) return ControlKind::List;
+  if (StartsWith(name, "ch_") || StartsWith(name, "check") || StartsWith(name, "Check") ||
+      name == "Cfactor" || name == "C1factor")
+    return ControlKind::CheckBox;
+  if (StartsWith(name, "cbutt") && name.size() == 6) return ControlKind::Option;  // the supports
+  for (const char* option :
+       {"rbtn",       "opt",        "Opt",         "prof",        "latbuckl",    "loadl",      "Curve",
+        "bucklingy",  "bucklingz",  "oweld",       "cwebstiff",   "oendstiff",   "cp_",        "no_cp",
+        "cpabsolute", "cprelative", "pmxrelative", "pmxabsolute", "qtxrelative", "qtxabsolute"})
+    if (StartsWith(name, option)) return ControlKind::Option;
+  return ControlKind::Button;
+}
+
+const char* KindText(ControlKind k) {
+  switch (k) {
+    case ControlKind::Field: return "field";
+    case ControlKind::Text: return "text";
+    case ControlKind::List: return "list";
+    case ControlKind::Option: return "option";
+    case ControlKind::CheckBox: return "check box";
+    case ControlKind::Button: return "button";
+    case ControlKind::Menu: return "menu";
+    case ControlKind::Event: return "event";
+  }
+  return "button";
+}
+
+std::string UnitOfField(const State& s, const ControlEntry& e, int index) {
+  if (e.kind != ControlKind::Field) return {};
+  const std::string& n = e.name;
+  const std::string& f = e.form;
+  if (f.empty() && n == "il") return "m";
+  if (n == "ifyk" || n == "ie") return "MPa";
+  if (n == "ispring") return "%";
+  if (f == "Loading") {
+    if (n == "inn") return "kN";
+    if (n == "iq" || n == "iqt1" || n == "iqt2") return "kN/m";
+    if (n == "iqtx1" || n == "iqtx2") return s.loads.TrapezoidXRelative != 0 ? "x/L" : "m";
+    if (n == "ipmx") return s.loads.PointLoadXRelative != 0 ? "x/L" : "m";
+    if (n == "ipm") {
+      if (index >= 1 && index <= 8) return s.loads.point[static_cast<size_t>(index)].Kind == 0 ? "kN" : "kNm";
+      return "kN or kNm";
+    }
+  }
+  if (f == "endforce") return n == "ine" || n[1] == 'v' ? "kN" : "kNm";
+  if (f == "chpoints") return s.project.ChPointRelative != 0 ? "x/L" : "m";
+  if (f == "endstiff" || n == "iza") return "mm";
+  if (f == "p41") {
+    if (StartsWith(n, "ista")) return "mm2";
+    if (n == "istiw") return "mm6";
+    if (StartsWith(n, "isti")) return "mm4";
+    if (StartsWith(n, "istw")) return "mm3";
+  }
+  if (StartsWith(n, "ist")) return "mm";
+  return {};
+}
+
+std::vector<std::string> ListEntries(State& s, const ControlEntry& e) {
+  const std::string key = e.form.empty() ? e.name : e.form + "." + e.name;
+  auto it = s.view.items.find(key);
+  if ((it == s.view.items.end() || it->second.empty()) && e.name == "cbo") {
+    // A section dialog fills its catalogue list when it opens.
+    if (const SectionDialogInfo* d = SectionDialogOfForm(e.form)) {
+      // Only the entries: the choice on show stays as it is.
+      const auto shown = s.view.value.find(key);
+      const std::optional<int> before =
+          shown == s.view.value.end() ? std::nullopt : std::optional(shown->second);
+      FillSectionList(s, *d);
+      if (before)
+        s.view.value[key] = *before;
+      else
+        s.view.value.erase(key);
+    }
+    it = s.view.items.find(key);
+  }
+  return it == s.view.items.end() ? std::vector<std::string>() : it->second;
+}
+
+int ChoiceByText(State& s, const ControlEntry& e, std::string_view text, std::vector<std::string>* entries) {
+  *entries = ListEntries(s, e);
+  const std::string_view wanted = Trimmed(text);
+  for (size_t i = 0; i < entries->size(); ++i)
+    if ((*entries)[i] == wanted) return static_cast<int>(i);
+  int found = -1;
+  for (size_t i = 0; i < entries->size(); ++i) {
+    if (Folded((*entries)[i]) != Folded(wanted)) continue;
+    if (found >= 0) return -1;  // two entries differ only in case or blanks: the text names neither
+    found = static_cast<int>(i);
+  }
+  return found;
 }
 
 }  // namespace vn

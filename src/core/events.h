@@ -30,12 +30,35 @@ struct EventResult {
 
 using ControlHandler = std::function<EventResult(State& s, int index, std::string_view text)>;
 
+// What a control is on its form.
+enum class ControlKind { Field, Text, List, Option, CheckBox, Button, Menu, Event };
+
 struct ControlEntry {
   std::string form;                     // "" the main form, else the dialog: "Loading", "setup", "p04" ...
   std::string name;                     // "il", "iq", "cbutt2"
   int firstIndex = -1, lastIndex = -1;  // a control array takes indices firstIndex..lastIndex
   ControlHandler run;
+  ControlKind kind = ControlKind::Button;  // from the name where the registration does not say
+  std::string format;                      // a numeric field's display format
+  std::string limit;                       // a numeric field's warning text, the limit itself
 };
+
+// The kind a control's name gives it: i... a field, cbo... a list, ch_... a check box, mnu... a
+// menu entry, the options by their prefixes; Activate and Unload are form events.
+ControlKind KindOfName(std::string_view name);
+const char* KindText(ControlKind k);  // "field", "text", "list", "option", "check box", "button" ...
+// The unit of a numeric field as the form writes it beside the field ("m", "kN/m", "mm4"), empty
+// for a factor. `loads` gives the units that depend on the state (a point load or a moment, x
+// relative or in metres).
+std::string UnitOfField(const State& s, const ControlEntry& e, int index);
+
+// A list choice by the text of an entry: the index of the entry whose text is `text` (or, failing
+// that, the one entry equal to it when case and blanks are ignored: "IPE 360" is "IPE360"). A list
+// filled only when its dialog opens is filled first. -1 when no entry or more than one matches;
+// `entries` then holds the list's entries.
+int ChoiceByText(State& s, const ControlEntry& e, std::string_view text, std::vector<std::string>* entries);
+// The entries of a list as its form shows them (filling a section dialog's list if need be).
+std::vector<std::string> ListEntries(State& s, const ControlEntry& e);
 
 class ControlTable {
  public:
@@ -44,6 +67,7 @@ class ControlTable {
   // forms share means the main form's.
   const ControlEntry* Find(std::string_view control, int* index) const;
   std::vector<std::string> Names() const;
+  const std::vector<ControlEntry>& Entries() const { return entries_; }
 
  private:
   std::vector<ControlEntry> entries_;

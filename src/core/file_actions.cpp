@@ -116,17 +116,26 @@ void MoveRecentToTop(State& s, int index, const std::string& path) {
   SetRecent(s, 1, path);
 }
 
-EventResult OpenAction(State& s, const std::string& path) {
+EventResult OpenAction(State& s, const std::string& path, FileResult* readResult) {
   if (path.empty()) return EventResult{};  // cancelled
   Project& p = s.project;
+  // What the read gave, for a caller that must not go on with the project as it was (a script).
+  FileResult result = FileResult::NotFound;
+  struct Tell {
+    FileResult& result;
+    FileResult* out;
+    ~Tell() {
+      if (out) *out = result;
+    }
+  } tell{result, readResult};
   // The file is read whole before anything changes: a path that is missing, a folder, a device or
   // a file of megabytes ends the action with the record, the caption and the recent list as they were.
   std::string text, reason;
   const ReadStatus read = ReadFileBounded(path, kProjectFileLimit, &text, &reason);
-  if (read != ReadStatus::Ok)
-    return CannotRead(read == ReadStatus::TooLarge ? FileResult::TooLarge : FileResult::NotFound, path,
-                      reason);
-  FileResult result;
+  if (read != ReadStatus::Ok) {
+    result = read == ReadStatus::TooLarge ? FileResult::TooLarge : FileResult::NotFound;
+    return CannotRead(result, path, reason);
+  }
   if (path == p.fileName) {
     result = ReadProjectText(s, text);
   } else {

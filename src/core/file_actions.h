@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "core/project_file.h"
+
 #include "core/events.h"
 
 namespace vn {
@@ -20,7 +22,9 @@ void PromoteRecent(State& s, const std::string& path);
 void MoveRecentToTop(State& s, int index, const std::string& path);
 
 // The actions. `path` is what the file dialog returned; empty means the dialog was cancelled.
-EventResult OpenAction(State& s, const std::string& path);
+// `result`, if given, receives how the read ended (a file of values of the wrong kind ends
+// silently on the form, and a script needs to know it).
+EventResult OpenAction(State& s, const std::string& path, FileResult* result = nullptr);
 EventResult SaveAction(State& s, const std::string& path);
 EventResult SaveAsAction(State& s, const std::string& path);
 EventResult RecentFileAction(State& s, int index);

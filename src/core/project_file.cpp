@@ -472,6 +472,9 @@ FileResult ReadProjectText(State& s, const std::string& text) {
   try {
     Integer version = 0;
     io.Int(version);
+    // A project file begins with its version number (the format's own, or an earlier one): a
+    // text that begins with any other number is no project, however many values follow.
+    if (version < 1 || version > kProjectVersion) return FileResult::OtherError;
     WalkProject(io, s, version);
     // A file without the mark, or with anything else there, is in the default rules.
     s.project.strictRules = False;

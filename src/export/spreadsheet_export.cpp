@@ -4,7 +4,10 @@
 
 #include <cctype>
 #include <cerrno>
+#include <cmath>
+#include <cstdlib>
 #include <cstring>
+#include <map>
 
 #include "core/safe_file.h"
 #include "core/state.h"
@@ -34,6 +37,40 @@ std::string CsvCell(const std::string& text) {
   return out + "\"";
 }
 
+// A cell whose whole text is a number as the table prints one ("0,852", "-12.5", "1E+25"): its value
+// and the decimals shown. A thousands separator never occurs, so a comma is the decimal sign.
+bool CellNumber(const std::string& text, double* value, int* decimals, bool* exponent) {
+  size_t i = 0;
+  const size_t n = text.size();
+  if (i < n && (text[i] == '-' || text[i] == '+')) ++i;
+  const size_t digits = i;
+  while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i;
+  if (i == digits) return false;
+  *decimals = 0;
+  if (i < n && (text[i] == '.' || text[i] == ',')) {
+    const size_t after = ++i;
+    while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i;
+    if (i == after) return false;
+    *decimals = static_cast<int>(i - after);
+  }
+  *exponent = false;
+  if (i < n && (text[i] == 'E' || text[i] == 'e')) {
+    ++i;
+    if (i < n && (text[i] == '-' || text[i] == '+')) ++i;
+    const size_t e = i;
+    while (i < n && std::isdigit(static_cast<unsigned char>(text[i]))) ++i;
+    if (i == e) return false;
+    *exponent = true;
+  }
+  if (i != n) return false;
+  std::string point = text;
+  for (char& ch : point)
+    if (ch == ',') ch = '.';
+  char* end = nullptr;
+  *value = std::strtod(point.c_str(), &end);
+  return end == point.c_str() + point.size() && std::isfinite(*value);
+}
+
 }  // namespace
 
 bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
@@ -54,14 +91,35 @@ bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bo
     for (int c = 0; c < kDetailColumns; ++c)
       worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c), widths[c], nullptr);
 
+    // A number is written as a number, shown with the decimals the table shows (so that a
+    // spreadsheet computes with it); every other cell as its text.
+    std::map<std::string, lxw_format*> numberFormats;
+    auto numberFormat = [&](int decimals, bool exponent, bool isBold) {
+      std::string pattern = decimals > 0 ? "0." + std::string(static_cast<size_t>(decimals), '0') : "0";
+      if (exponent) pattern += "E+00";
+      const std::string key = pattern + (isBold ? "b" : "");
+      auto it = numberFormats.find(key);
+      if (it != numberFormats.end()) return it->second;
+      lxw_format* f = workbook_add_format(book);
+      format_set_num_format(f, pattern.c_str());
+      if (isBold) format_set_bold(f);
+      return numberFormats[key] = f;
+    };
     lxw_error failed = LXW_NO_ERROR;
     for (size_t r = 0; r < rows.size() && failed == LXW_NO_ERROR; ++r) {
       const bool isBold = r == 0 || bold.count(static_cast<int>(r)) > 0;
       for (int c = 0; c < kDetailColumns && failed == LXW_NO_ERROR; ++c) {
         const std::string& text = rows[r][static_cast<size_t>(c)];
         if (text.empty()) continue;  // an empty cell stays empty
-        failed = worksheet_write_string(sheet, static_cast<lxw_row_t>(r), static_cast<lxw_col_t>(c),
-                                        text.c_str(), isBold ? strong : nullptr);
+        const auto row = static_cast<lxw_row_t>(r);
+        const auto col = static_cast<lxw_col_t>(c);
+        double value = 0;
+        int decimals = 0;
+        bool exponent = false;
+        if (CellNumber(text, &value, &decimals, &exponent))
+          failed = worksheet_write_number(sheet, row, col, value, numberFormat(decimals, exponent, isBold));
+        else
+          failed = worksheet_write_string(sheet, row, col, text.c_str(), isBold ? strong : nullptr);
       }
     }
     errno = 0;

@@ -13,7 +13,8 @@ namespace vn {
 
 struct State;
 
-// One worksheet, the cells written as text strings as the grid shows them, empty cells left empty;
+// One worksheet: a cell that is a number written as a number with the decimals the grid shows,
+// every other cell as its text, empty cells left empty;
 // the header row and the group heads in bold. False with the reason in *error (naming the path).
 bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
                      std::string* error);

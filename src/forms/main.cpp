@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "core/file_actions.h"
 #include "core/recalculate.h"
 #include "core/startup.h"
 #include "export/spreadsheet_export.h"
@@ -25,14 +26,19 @@
 #include "forms/session.h"
 #include "forms/settings_store.h"
 
+#ifndef VARNELT_VERSION
+#define VARNELT_VERSION "unknown"
+#endif
+
 namespace {
 
 const char* kUsage =
-    "usage: varnelt [PROJECT.vnt]\n"
+    "usage: varnelt [PROJECT.vnt]  (a missing or damaged project file ends with exit status 3)\n"
     "       varnelt --screenshot PATH [PROJECT.vnt]\n"
     "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n"
     "       varnelt --screenshot-report section|stability PATH [PROJECT.vnt]\n"
-    "       --do CONTROL[=TEXT] before a screenshot fires an event, e.g. --do p10.pic1 (repeatable)\n";
+    "       --do CONTROL[=TEXT] before a screenshot fires an event, e.g. --do p10.pic1 (repeatable)\n"
+    "       varnelt --version\n";
 
 // Lets the window settle: layouts, deferred events, the first paint.
 void Settle() {
@@ -77,6 +83,9 @@ int main(int argc, char** argv) {
     } else if (a == "--help" || a == "-h") {
       std::fputs(kUsage, stdout);
       return 0;
+    } else if (a == "--version") {
+      std::fputs("varnelt " VARNELT_VERSION "\n", stdout);
+      return 0;
     } else if (a == "-style" || a == "-platform") {
       ++i;  // Qt's own options with a value
     } else if (!a.empty() && a[0] == '-' && a.rfind("-style=", 0) != 0 && a.rfind("-platform=", 0) != 0) {
@@ -114,8 +123,17 @@ int main(int argc, char** argv) {
     if (!vn::forms::Session::knows("mnuopen")) {
       std::fprintf(stderr, "varnelt: opening project files is not available in this build\n");
     } else {
-      vn::EventResult r = session.fire("mnuopen", path);
-      if (r.refused) std::fprintf(stderr, "%s\n", r.message.c_str());
+      // A file that is missing or no project ends the program: it must not go on to show (or take
+      // a picture of) the default project as if it were the file's.
+      vn::FileResult result = vn::FileResult::Ok;
+      vn::EventResult r = vn::OpenAction(session.state(), path, &result);
+      session.refreshViews();  // the form shows the record read, as after any event
+      if (r.refused || result != vn::FileResult::Ok) {
+        std::fprintf(stderr, "%s\n",
+                     r.refused ? r.message.c_str()
+                               : ("varnelt: " + path + " is not a project file of this program").c_str());
+        return 3;
+      }
     }
   }
 

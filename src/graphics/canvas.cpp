@@ -238,13 +238,17 @@ void SvgCanvas::Circle(Point centre, double radius, const Pen& pen, std::optiona
 void SvgCanvas::Text(Point at, const std::string& text, const Font& font, HAlign h, VAlign v) {
   Point p = map_.ToDevice(at);
   const char* anchor = h == HAlign::Left ? "start" : h == HAlign::Center ? "middle" : "end";
-  const char* baseline = v == VAlign::Top ? "hanging" : v == VAlign::Middle ? "central" : "text-after-edge";
-  body_ += "<text x=\"" + Num(p.x) + "\" y=\"" + Num(p.y) + "\" font-family=\"" + Escape(font.family) +
-           "\" font-size=\"" + Num(font.size * 96.0 / 72.0) + "\"";
+  // The alignment is put into the position of the alphabetic baseline (an ascent of 0.8 and a
+  // descent of 0.2 of the size), which every renderer honours; a title at the top edge then lies
+  // inside the picture also where dominant-baseline is ignored.
+  const double px = font.size * 96.0 / 72.0;
+  const double y = v == VAlign::Top ? p.y + 0.8 * px : v == VAlign::Middle ? p.y + 0.3 * px : p.y - 0.2 * px;
+  body_ += "<text x=\"" + Num(p.x) + "\" y=\"" + Num(y) + "\" font-family=\"" + Escape(font.family) +
+           "\" font-size=\"" + Num(px) + "\"";
   if (font.bold) body_ += " font-weight=\"bold\"";
   if (font.italic) body_ += " font-style=\"italic\"";
   body_ += std::string(" fill=\"") + Color(font.color) + "\" text-anchor=\"" + anchor +
-           "\" dominant-baseline=\"" + baseline + "\" xml:space=\"preserve\">" + Escape(text) + "</text>\n";
+           "\" xml:space=\"preserve\">" + Escape(text) + "</text>\n";
 }
 
 std::string SvgCanvas::Svg() const {

@@ -138,34 +138,46 @@ TEST(DetailExport, AnEmptyPathIsRefused) {
 
 // ---- XLSX ----
 
-TEST_F(ExportFiles, XlsxIsAZipWorkbookWithTheCellsAsText) {
-  DetailTable t = TableWithMcr(false);
-  std::string error;
-  ASSERT_TRUE(WriteDetailXlsx(t.rows, t.bold, Path("detail.xlsx"), &error)) << error;
-  const std::string bytes = ReadFile(Path("detail.xlsx"));
-  ASSERT_GE(bytes.size(), 4u);
-  EXPECT_EQ(bytes.substr(0, 4), std::string("PK\x03\x04", 4));  // a zip local file header
-  EXPECT_EQ(FilesInFolder(), 1);
+// Numbers as numbers, so that a spreadsheet computes with them, shown with the table's decimals;
+// texts as texts; the same workbook whichever decimal sign the table was printed with.
+TEST_F(ExportFiles, XlsxWritesNumbersAsNumbersAndTextsAsTexts) {
+  for (bool comma : {false, true}) {
+    SCOPED_TRACE(comma ? "decimal comma" : "decimal point");
+    DetailTable t = TableWithMcr(comma);
+    std::string error;
+    ASSERT_TRUE(WriteDetailXlsx(t.rows, t.bold, Path("detail.xlsx"), &error)) << error;
+    const std::string bytes = ReadFile(Path("detail.xlsx"));
+    ASSERT_GE(bytes.size(), 4u);
+    EXPECT_EQ(bytes.substr(0, 4), std::string("PK\x03\x04", 4));  // a zip local file header
+    EXPECT_EQ(FilesInFolder(), 1);
 
-  if (!HaveUnzip()) GTEST_SKIP() << "unzip is not installed: the workbook's parts are not read";
-  const std::string sheet = ZipMember(Path("detail.xlsx"), "xl/worksheets/sheet1.xml");
-  const std::string strings = ZipMember(Path("detail.xlsx"), "xl/sharedStrings.xml");
-  ASSERT_FALSE(sheet.empty());
-  // Text cells, the leading blanks kept.
-  EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Parameter</t>"), std::string::npos);
-  EXPECT_NE(strings.find("<t>123.457</t>"), std::string::npos);
-  EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Lateral Buckling Factors</t>"), std::string::npos);
-  // Every cell is a string cell, and an empty cell of the grid is no cell at all.
-  size_t filled = 0;
-  for (const DetailRow& r : t.rows)
-    for (const std::string& cell : r) filled += cell.empty() ? 0 : 1;
-  EXPECT_EQ(Count(sheet, "<c r="), filled);
-  EXPECT_EQ(Count(sheet, "t=\"s\""), filled);
-  // A1 is the header's first cell, A2 the first group head: both bold (style 1).
-  EXPECT_NE(sheet.find("<c r=\"A1\" s=\"1\" t=\"s\">"), std::string::npos) << sheet;
-  EXPECT_NE(sheet.find("<c r=\"A2\" s=\"1\" t=\"s\">"), std::string::npos);
-  EXPECT_NE(sheet.find("<c r=\"A3\" t=\"s\">"), std::string::npos);  // " My": plain
-  EXPECT_NE(ZipMember(Path("detail.xlsx"), "xl/styles.xml").find("<b/>"), std::string::npos);
+    if (!HaveUnzip()) GTEST_SKIP() << "unzip is not installed: the workbook's parts are not read";
+    const std::string sheet = ZipMember(Path("detail.xlsx"), "xl/worksheets/sheet1.xml");
+    const std::string strings = ZipMember(Path("detail.xlsx"), "xl/sharedStrings.xml");
+    const std::string styles = ZipMember(Path("detail.xlsx"), "xl/styles.xml");
+    ASSERT_FALSE(sheet.empty());
+    // Text cells, the leading blanks kept; Mcr (row 6) the number 123.457 shown with 3 decimals.
+    EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Parameter</t>"), std::string::npos);
+    EXPECT_NE(strings.find("<t xml:space=\"preserve\"> Lateral Buckling Factors</t>"), std::string::npos);
+    EXPECT_EQ(strings.find("123"), std::string::npos);
+    EXPECT_NE(sheet.find("<c r=\"B6\" s=\"2\"><v>123.457</v></c>"), std::string::npos) << sheet;
+    EXPECT_NE(styles.find("formatCode=\"0.000\""), std::string::npos) << styles;
+    // An empty cell of the grid is no cell at all; the string cells are the non-numbers.
+    size_t filled = 0, numbers = 0;
+    for (const DetailRow& r : t.rows)
+      for (const std::string& cell : r) {
+        filled += cell.empty() ? 0 : 1;
+        numbers += !cell.empty() && cell.find_first_not_of("0123456789.,-") == std::string::npos ? 1 : 0;
+      }
+    EXPECT_GE(numbers, 1u);  // Mcr at least
+    EXPECT_EQ(Count(sheet, "<c r="), filled);
+    EXPECT_EQ(Count(sheet, "t=\"s\""), filled - numbers);
+    // A1 is the header's first cell, A2 the first group head: both bold (style 1).
+    EXPECT_NE(sheet.find("<c r=\"A1\" s=\"1\" t=\"s\">"), std::string::npos) << sheet;
+    EXPECT_NE(sheet.find("<c r=\"A2\" s=\"1\" t=\"s\">"), std::string::npos);
+    EXPECT_NE(sheet.find("<c r=\"A3\" t=\"s\">"), std::string::npos);  // " My": plain
+    EXPECT_NE(styles.find("<b/>"), std::string::npos);
+  }
 }
 
 TEST_F(ExportFiles, TheStateExportChoosesCsvByTheFileName) {

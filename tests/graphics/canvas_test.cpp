@@ -117,6 +117,19 @@ TEST(SvgCanvas, TextIsEscapedAndSizedInPixels) {
   EXPECT_NE(out.find("text-anchor=\"end\""), std::string::npos) << out;
 }
 
+TEST(SvgCanvas, TextAlignmentIsInTheBaselineSoATitleAtTheTopStaysInside) {
+  // 9.333 px: a title hung from y = 0 has its baseline 0.8 of the size lower; one standing on
+  // y = 100 its baseline 0.2 of the size higher. No renderer-specific baseline attribute.
+  SvgCanvas svg(100, 100);
+  svg.SetScale(0, 0, 100, 100);
+  svg.Text({50, 0}, "Title", Font{}, HAlign::Center, VAlign::Top);
+  svg.Text({50, 100}, "Foot", Font{}, HAlign::Center, VAlign::Bottom);
+  const std::string out = svg.Svg();
+  EXPECT_NE(out.find("y=\"7.47\""), std::string::npos) << out;
+  EXPECT_NE(out.find("y=\"98.13\""), std::string::npos) << out;
+  EXPECT_EQ(out.find("dominant-baseline"), std::string::npos) << out;
+}
+
 TEST(SvgCanvas, RectangleFromAnyTwoCornersAndCircleRadius) {
   SvgCanvas svg(200, 200);
   svg.SetScale(0, 0, 100, 100);
