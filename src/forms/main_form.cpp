@@ -784,12 +784,60 @@ QWidget* MainForm::dialog(const std::string& name) const {
   return it == dialogs_.end() ? nullptr : it->second.data();
 }
 
+void MainForm::placeBesideCharts(QWidget* d) {
+  const auto* z = findChild<QWidget*>("fr2");
+  const auto* y = findChild<QWidget*>("fr3");
+  if (!z || !y) return;
+  const QRect charts =
+      QRect(z->mapToGlobal(QPoint(0, 0)), z->size()).united(QRect(y->mapToGlobal(QPoint(0, 0)), y->size()));
+  const QRect own = frameGeometry();
+  // The frame of the dialog around its contents, as the window manager draws it.
+  const QSize size = d->frameGeometry().size().expandedTo(d->sizeHint());
+  QRect room(-(1 << 14), -(1 << 14), 1 << 15, 1 << 15);
+  QScreen* screen = this->screen();
+  if (screen && QGuiApplication::platformName() != "offscreen") room = screen->availableGeometry();
+  auto inside = [&room](QRect r) {
+    if (r.right() > room.right()) r.moveRight(room.right());
+    if (r.bottom() > room.bottom()) r.moveBottom(room.bottom());
+    if (r.left() < room.left()) r.moveLeft(room.left());
+    if (r.top() < room.top()) r.moveTop(room.top());
+    return r;
+  };
+  // Beside the main form, then over the input frame at its left, then under the charts: the first
+  // place that leaves the charts free, else the one that hides the least of them.
+  const QRect places[] = {QRect(QPoint(own.right() + 1, charts.top()), size),
+                          QRect(QPoint(own.left() - size.width(), charts.top()), size),
+                          QRect(QPoint(own.left(), charts.top()), size),
+                          QRect(QPoint(charts.left(), charts.bottom() + 1), size)};
+  QRect best;
+  qint64 least = -1;
+  for (const QRect& place : places) {
+    const QRect r = inside(place);
+    const QRect hidden = r.intersected(charts);
+    const qint64 area = hidden.isEmpty() ? 0 : qint64(hidden.width()) * hidden.height();
+    if (least < 0 || area < least) {
+      least = area;
+      best = r;
+    }
+    if (area == 0) break;
+  }
+  d->move(best.topLeft());
+}
+
 void MainForm::syncDialogs() {
-  const auto& open = session_->state().view.openDialogs;
+  if (syncing_) return;
+  syncing_ = true;
+  const State& s = session_->state();
+  const auto& open = s.view.openDialogs;
   for (const std::string& name : open) {
     if (dialog(name)) continue;
     if (QWidget* d = createDialog(name)) {
       dialogs_[name] = d;
+      // The loads are edited while their charts are watched.
+      if (name == "Loading" || name == "endforce") {
+        d->adjustSize();
+        placeBesideCharts(d);
+      }
       d->show();
     }
   }
@@ -805,6 +853,16 @@ void MainForm::syncDialogs() {
       ++it;
     }
   }
+  // One family's dialog at a time: choosing another family closes the dialog of the one before,
+  // through its own close, so that it leaves the core's list of open dialogs.
+  std::vector<QPointer<QWidget>> older;
+  for (const auto& [name, d] : dialogs_) {
+    const ProfileEntry* e = ProfileOfDialog(name);
+    if (e && d && e->type != s.project.ProfileType && !d->property("keptByForm").toBool()) older.push_back(d);
+  }
+  syncing_ = false;
+  for (const QPointer<QWidget>& d : older)
+    if (d) d->close();
 }
 
 QWidget* MainForm::openDialog(const std::string& name) {

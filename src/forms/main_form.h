@@ -55,6 +55,8 @@ class MainForm : public QMainWindow {
   void buildForm();
   void onMenu(const std::string& control);
   void syncDialogs();
+  // Moves a dialog that edits the loads where it leaves the charts in view.
+  void placeBesideCharts(QWidget* d);
   QWidget* createDialog(const std::string& name);
   QAction* addEntry(QMenu* menu, const std::string& control, const QString& caption);
 
@@ -66,6 +68,7 @@ class MainForm : public QMainWindow {
   QTextEdit* summary_ = nullptr;
   QString shownSummary_;
   QLabel* error_ = nullptr;
+  bool syncing_ = false;
 };
 
 }  // namespace vn::forms
