@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QString>
 #include <map>
 #include <string>
 
@@ -17,6 +18,10 @@ namespace vn::forms {
 class Bindings;
 class Session;
 class PictureBox;
+
+// A text of the summary as rich text that breaks at its blanks only, each formula and row of numbers
+// whole and every "=" kept with the word before it.
+QString KeepWordsWhole(const std::string& text);
 
 class MainForm : public QMainWindow {
   Q_OBJECT
@@ -68,6 +73,7 @@ class MainForm : public QMainWindow {
   QTextEdit* summary_ = nullptr;
   QString shownSummary_;
   QLabel* error_ = nullptr;
+  QLabel* verdict_ = nullptr;
   bool syncing_ = false;
 };
 
