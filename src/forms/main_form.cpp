@@ -630,6 +630,14 @@ void MainForm::buildForm() {
   bold.setBold(true);
   error_->setFont(bold);
   error_->hide();
+  // The message area: what the program took off the member on its own.
+  note_ = new QLabel;
+  note_->setObjectName("txtNote");
+  note_->setWordWrap(true);
+  QPalette brown = note_->palette();
+  brown.setColor(QPalette::WindowText, QColor(0x8a, 0x4b, 0x00));
+  note_->setPalette(brown);
+  note_->hide();
   auto* more = new QPushButton("More Results");
   b.button(more, "CmdResult");
   // The verdict of the run in one line above the three blocks.
@@ -647,6 +655,7 @@ void MainForm::buildForm() {
   rl->addWidget(profile, 1, 0);
   rl->addLayout(told, 0, 1, 3, 1);
   rl->addWidget(error_, 3, 0, 1, 2);
+  rl->addWidget(note_, 4, 0, 1, 2);
   rl->addWidget(more, 2, 0, Qt::AlignBottom);
   rl->setColumnStretch(1, 1);
   rl->setRowStretch(2, 1);
@@ -736,6 +745,8 @@ void MainForm::refresh() {
                           .arg(RatioColour(v.verdictColour), KeepWordsWhole(v.verdict)));
   }
   verdict_->setVisible(verdict);
+  note_->setText(session_->loadsNote());
+  note_->setVisible(!session_->loadsNote().isEmpty());
   error_->setText(QString::fromStdString(v.txtError));
   error_->setVisible(v.txtErrorVisible);
 

@@ -74,6 +74,7 @@ class MainForm : public QMainWindow {
   QString shownSummary_;
   QLabel* error_ = nullptr;
   QLabel* verdict_ = nullptr;
+  QLabel* note_ = nullptr;
   bool syncing_ = false;
 };
 

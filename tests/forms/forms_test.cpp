@@ -185,6 +185,37 @@ class FormsTest : public QObject {
     QVERIFY(summary->width() >= before + 300);
   }
 
+  // ---- loads that a family can't carry ----
+
+  // The T takes axial loads only, HSQ and plates bend about y only and carry no axial force: a
+  // change to such a family that takes loads off the member names them in the message area.
+  void familyChangeThatRemovesLoadsSaysSo() {
+    auto* note = control<QLabel>("txtNote");
+    QVERIFY(!note->isVisible());
+    // The person's own zero is no removal.
+    session->fire("Loading.iq(1)", "0");
+    QVERIFY(note->text().isEmpty());
+    session->fire("Loading.iq(1)", "10");
+    form->menuAction("mnu26")->trigger();  // T
+    QVERIFY(note->isVisible());
+    QCOMPARE(note->text(), QString("Loads removed: q-load 1 (Z) (not carried by T)."));
+
+    for (const char* family : {"mnup24", "mnuplateFb"}) {
+      session->fire("mnunew");
+      QVERIFY(note->text().isEmpty());  // a new project starts with no note
+      // The default axial load of 100 kN, and 5 kN/m in Y beside the 10 kN/m in Z.
+      session->fire("Loading.iq(2)", "5");
+      session->fire("Loading.iq_yz(2)");
+      const vn::Loads& l = session->state().loads;
+      QVERIFY(l.uniform[2].q == 5 && l.uniform[2].Dir == 0 && l.axial[1].N == 100);
+      form->menuAction(family)->trigger();
+      QVERIFY2(note->isVisible(), family);
+      QVERIFY2(note->text().startsWith("Loads removed: axial load 1, q-load 2 (Y) (not carried by "), family);
+      QCOMPARE(session->state().loads.uniform[1].q, 10.0f);  // the Z load stays, and is not named
+      QVERIFY(!note->text().contains("q-load 1"));
+    }
+  }
+
   // ---- the field protocol ----
 
   void fieldTurnsGreenAndSelectsItsTextOnFocus() {
