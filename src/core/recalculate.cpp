@@ -35,6 +35,8 @@ enum class Reached { Nothing, Section, SectionShown, Figure };
 void VoidResults(State& s, Reached reached) {
   View& v = s.view;
   v.summary.clear();
+  v.verdict.clear();  // no verdict on results that are not there
+  v.verdictColour = 0;
   v.detailGrid.clear();
   v.detailGridBold.clear();
   for (const char* picture : {"PicLoadZ", "PicMy", "PicLoadY", "PicMz", "pic11"}) v.pictures.erase(picture);

@@ -55,6 +55,12 @@ struct View {
   // Summary of controls: the governing load case and the section, buckling and deflection
   // blocks, one entry a printed line. Rebuilt by every run that reaches the summary.
   std::vector<SummaryLine> summary;
+  // The verdict of the run in one line above the summary: OK or NOT OK, the governing ratio, its
+  // block, formula and clause ("OK: governing IR = 0.17 <= 1.0, buckling control:
+  // IR = NEd/Nb,z,Rd+kzy*My,Ed/(xLT*My,Rd) (Ch 6.3.3)"); colour 2 green or 4 red. Empty when the
+  // summary has no control line, and after a run that failed.
+  std::string verdict;
+  int verdictColour = 0;
 
   // More Results: the grid of 55 rows by 4 cells (Parameter, Value, unit, Reference), row 0 the
   // header, empty strings for empty cells; the rows in detailGridBold are group heads, shown bold.

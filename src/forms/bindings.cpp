@@ -78,6 +78,7 @@ bool FieldBinder::eventFilter(QObject* watched, QEvent* event) {
       QMetaObject::invokeMethod(
           this,
           [this] {
+            if (!pending_) return;  // run already, before its window closed
             pending_ = false;
             leave(false);
           },
@@ -89,16 +90,22 @@ bool FieldBinder::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-void FieldBinder::leave(bool byEnter) {
-  if (!edit_ || !Session::knows(name_)) return;
+bool FieldBinder::flush() {
+  if (!pending_) return true;
+  pending_ = false;
+  return leave(false);
+}
+
+bool FieldBinder::leave(bool byEnter) {
+  if (!edit_ || !Session::knows(name_)) return true;
   const std::string text = edit_->text().toStdString();
   edit_->setModified(false);  // the field shows what the core makes of the text
   EventResult r = session_->fire(name_, text);
-  if (!edit_) return;
+  if (!edit_) return !r.refused;
   if (r.refused) {
     setColour(EditingColor());
     if (!r.message.empty()) boxes().warning(edit_->window(), QString::fromStdString(r.message));
-    if (!edit_) return;
+    if (!edit_) return false;
     // After the box has closed: the focus back on the field, which stays green.
     session_->restoringFocus = true;
     edit_->activateWindow();
@@ -106,10 +113,10 @@ void FieldBinder::leave(bool byEnter) {
     session_->restoringFocus = false;
     setColour(EditingColor());
     if (numeric_) edit_->selectAll();
-    return;
+    return false;
   }
   setColour(RestingColor());
-  if (!byEnter) return;
+  if (!byEnter) return true;
   QWidget* target = owner_->widget(r.focus);
   QWidget* window = edit_->window();
   auto canTake = [window](QWidget* w) {
@@ -125,6 +132,7 @@ void FieldBinder::leave(bool byEnter) {
     setColour(EditingColor());
     if (numeric_) edit_->selectAll();
   }
+  return true;
 }
 
 // ---- Bindings ----
@@ -203,6 +211,15 @@ QWidget* Bindings::firstField() const {
         e.widget->isEnabled())
       return e.widget;
   return nullptr;
+}
+
+bool Bindings::flushFields() {
+  for (const Entry& e : entries_) {
+    if ((e.kind != Kind::Field && e.kind != Kind::Text) || !e.widget) continue;
+    if (auto* binder = e.widget->findChild<FieldBinder*>(QString(), Qt::FindDirectChildrenOnly))
+      if (!binder->flush()) return false;
+  }
+  return true;
 }
 
 void Bindings::refresh() {

@@ -43,12 +43,16 @@ class FieldBinder : public QObject {
   FieldBinder(Session* session, QLineEdit* edit, std::string name, bool numeric, class Bindings* owner);
   QLineEdit* edit() const { return edit_; }
   const std::string& name() const { return name_; }
+  // Runs a leave that is still queued now, before the window goes: the field is left before the
+  // button that closes its window acts, as the person did it. False when the core refused the text
+  // (the warning was shown and the focus is back on the field).
+  bool flush();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void leave(bool byEnter);
+  bool leave(bool byEnter);  // false when refused
   void setColour(const QColor& c);
 
   Session* session_;
@@ -84,6 +88,9 @@ class Bindings : public QObject {
   QWidget* widget(const std::string& name) const;
   // The first field of the window, where the focus goes when a target can't take it.
   QWidget* firstField() const;
+  // Runs the leaves of the window's fields that are still queued (FieldBinder::flush); false when
+  // one was refused, so that the window stays.
+  bool flushFields();
 
   void refresh();
 

@@ -55,10 +55,17 @@ bool FormDialog::event(QEvent* event) {
   return QDialog::event(event);
 }
 
+void FormDialog::reject() { close(); }
+
 void FormDialog::closeEvent(QCloseEvent* event) {
   auto& open = session_->state().view.openDialogs;
   if (!DialogOpen(session_->state().view, form_)) {
     event->accept();  // the core has closed it
+    return;
+  }
+  // A field left by the click on the close button is left first; a refused value keeps the dialog.
+  if (!bindings_->flushFields()) {
+    event->ignore();
     return;
   }
   const std::string control = key(close_);

@@ -36,6 +36,10 @@ class FormDialog : public QDialog {
 
   void refresh();
 
+ public slots:
+  // Esc closes the dialog by the close protocol, as its close button does.
+  void reject() override;
+
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;

@@ -110,8 +110,9 @@ int main(int argc, char** argv) {
   vn::forms::ApplyLook(app);
 
   vn::forms::Session session;
-  // The recent files in the platform's per-user store.
-  session.state().settings = std::make_shared<vn::forms::PlatformSettingsStore>();
+  // The recent files in the platform's per-user store; a picture or a PDF made from the command
+  // line keeps the default in-memory store, so it never writes the person's list or settings.
+  if (!shot) session.state().settings = std::make_shared<vn::forms::PlatformSettingsStore>();
   // The export of More Results: an .xlsx workbook, or CSV by the name.
   session.state().spreadsheet = vn::ExportDetailGrid;
   session.start(QCoreApplication::applicationDirPath().toStdString(), vn::DetectDecimalComma());

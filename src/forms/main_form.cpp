@@ -112,10 +112,33 @@ QString RatioColour(int index) {
   return QStringLiteral("#000000");
 }
 
+}  // namespace
+
+// A text of the summary that breaks at its blanks only: a formula or a row of numbers stays whole
+// (no break after "/" or "(" inside it), and an "=" stays with the word before it, so that no line
+// begins with "=" and no "=" stands alone.
+QString KeepWordsWhole(const std::string& text) {
+  const QString t = QString::fromStdString(text);
+  const QChar joiner(0x2060), noBreakSpace(0x00A0);
+  QString out;
+  for (int i = 0; i < t.size(); ++i) {
+    QChar c = t[i];
+    const bool next = i + 1 < t.size();
+    if (c == ' ' && next && t[i + 1] == '=') c = noBreakSpace;
+    out += c;
+    // Inside a word the text breaks after "/" and "-" only: a joiner there, and nowhere else, so
+    // that a copied text keeps its characters.
+    if (next && (c == '/' || c == '-') && t[i + 1] != ' ') out += joiner;
+  }
+  return out.toHtmlEscaped();
+}
+
+namespace {
+
 // The summary of controls: titles bold and underlined with their note in plain type, each control
 // line with its formula and numbers, the ratio in its colour and the limit, in three columns.
 QString SummaryHtml(const View& v) {
-  auto esc = [](const std::string& t) { return QString::fromStdString(t).toHtmlEscaped(); };
+  auto esc = [](const std::string& t) { return KeepWordsWhole(t); };
   // The formulas wrap where the results area is too narrow; ratio and limit stay whole.
   QString html = QStringLiteral("<table width='100%' cellspacing=0 cellpadding=1>");
   bool first = true;
@@ -128,8 +151,8 @@ QString SummaryHtml(const View& v) {
       html += QStringLiteral("<tr><td colspan=3>%1 %2</td></tr>").arg(esc(l.left), esc(l.note));
     } else {
       html += QStringLiteral(
-                  "<tr><td>%1</td><td align=right style='white-space:pre'><b><font color='%2'>"
-                  "&nbsp;%3</font></b></td><td style='white-space:pre'>%4%5</td></tr>")
+                  "<tr><td>%1</td><td align=right valign=bottom style='white-space:pre'><b><font color='%2'>"
+                  "&nbsp;%3</font></b></td><td valign=bottom style='white-space:pre'>%4%5</td></tr>")
                   .arg(esc(l.left), RatioColour(l.colour), esc(l.ratio), esc(l.limit), esc(l.note));
     }
     first = false;
@@ -595,6 +618,7 @@ void MainForm::buildForm() {
   summary_->setFrameShape(QFrame::Panel);
   summary_->setFrameShadow(QFrame::Sunken);
   summary_->setLineWrapMode(QTextEdit::WidgetWidth);
+  summary_->setWordWrapMode(QTextOption::WordWrap);  // a word never breaks inside itself
   summary_->setFocusPolicy(Qt::NoFocus);
   error_ = new QLabel;
   error_->setObjectName("txtError");
@@ -606,12 +630,32 @@ void MainForm::buildForm() {
   bold.setBold(true);
   error_->setFont(bold);
   error_->hide();
+  // The message area: what the program took off the member on its own.
+  note_ = new QLabel;
+  note_->setObjectName("txtNote");
+  note_->setWordWrap(true);
+  QPalette brown = note_->palette();
+  brown.setColor(QPalette::WindowText, QColor(0x8a, 0x4b, 0x00));
+  note_->setPalette(brown);
+  note_->hide();
   auto* more = new QPushButton("More Results");
   b.button(more, "CmdResult");
+  // The verdict of the run in one line above the three blocks.
+  verdict_ = new QLabel;
+  verdict_->setObjectName("verdict");
+  verdict_->setWordWrap(true);
+  verdict_->setTextFormat(Qt::RichText);
+  verdict_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  verdict_->hide();
+  auto* told = new QVBoxLayout;
+  told->setSpacing(2);
+  told->addWidget(verdict_);
+  told->addWidget(summary_, 1);
   rl->addWidget(picture4, 0, 0);
   rl->addWidget(profile, 1, 0);
-  rl->addWidget(summary_, 0, 1, 3, 1);
+  rl->addLayout(told, 0, 1, 3, 1);
   rl->addWidget(error_, 3, 0, 1, 2);
+  rl->addWidget(note_, 4, 0, 1, 2);
   rl->addWidget(more, 2, 0, Qt::AlignBottom);
   rl->setColumnStretch(1, 1);
   rl->setRowStretch(2, 1);
@@ -629,8 +673,10 @@ void MainForm::buildForm() {
   grid->addWidget(fr4, 1, 1, 1, 2);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(2, 1);
-  grid->setRowStretch(0, 3);
-  grid->setRowStretch(1, 2);
+  // The charts and the results share the height: the summary with its deflection block stands
+  // whole at the start size.
+  grid->setRowStretch(0, 1);
+  grid->setRowStretch(1, 1);
 }
 
 void MainForm::refresh() {
@@ -692,6 +738,15 @@ void MainForm::refresh() {
     shownSummary_ = summary;
     summary_->setHtml(summary);
   }
+  // No verdict on the results of a run that failed.
+  const bool verdict = s.resultsValid && !v.verdict.empty();
+  if (verdict) {
+    verdict_->setText(QStringLiteral("<b><font color='%1'>%2</font></b>")
+                          .arg(RatioColour(v.verdictColour), KeepWordsWhole(v.verdict)));
+  }
+  verdict_->setVisible(verdict);
+  note_->setText(session_->loadsNote());
+  note_->setVisible(!session_->loadsNote().isEmpty());
   error_->setText(QString::fromStdString(v.txtError));
   error_->setVisible(v.txtErrorVisible);
 
@@ -784,12 +839,60 @@ QWidget* MainForm::dialog(const std::string& name) const {
   return it == dialogs_.end() ? nullptr : it->second.data();
 }
 
+void MainForm::placeBesideCharts(QWidget* d) {
+  const auto* z = findChild<QWidget*>("fr2");
+  const auto* y = findChild<QWidget*>("fr3");
+  if (!z || !y) return;
+  const QRect charts =
+      QRect(z->mapToGlobal(QPoint(0, 0)), z->size()).united(QRect(y->mapToGlobal(QPoint(0, 0)), y->size()));
+  const QRect own = frameGeometry();
+  // The frame of the dialog around its contents, as the window manager draws it.
+  const QSize size = d->frameGeometry().size().expandedTo(d->sizeHint());
+  QRect room(-(1 << 14), -(1 << 14), 1 << 15, 1 << 15);
+  QScreen* screen = this->screen();
+  if (screen && QGuiApplication::platformName() != "offscreen") room = screen->availableGeometry();
+  auto inside = [&room](QRect r) {
+    if (r.right() > room.right()) r.moveRight(room.right());
+    if (r.bottom() > room.bottom()) r.moveBottom(room.bottom());
+    if (r.left() < room.left()) r.moveLeft(room.left());
+    if (r.top() < room.top()) r.moveTop(room.top());
+    return r;
+  };
+  // Beside the main form, then over the input frame at its left, then under the charts: the first
+  // place that leaves the charts free, else the one that hides the least of them.
+  const QRect places[] = {QRect(QPoint(own.right() + 1, charts.top()), size),
+                          QRect(QPoint(own.left() - size.width(), charts.top()), size),
+                          QRect(QPoint(own.left(), charts.top()), size),
+                          QRect(QPoint(charts.left(), charts.bottom() + 1), size)};
+  QRect best;
+  qint64 least = -1;
+  for (const QRect& place : places) {
+    const QRect r = inside(place);
+    const QRect hidden = r.intersected(charts);
+    const qint64 area = hidden.isEmpty() ? 0 : qint64(hidden.width()) * hidden.height();
+    if (least < 0 || area < least) {
+      least = area;
+      best = r;
+    }
+    if (area == 0) break;
+  }
+  d->move(best.topLeft());
+}
+
 void MainForm::syncDialogs() {
-  const auto& open = session_->state().view.openDialogs;
+  if (syncing_) return;
+  syncing_ = true;
+  const State& s = session_->state();
+  const auto& open = s.view.openDialogs;
   for (const std::string& name : open) {
     if (dialog(name)) continue;
     if (QWidget* d = createDialog(name)) {
       dialogs_[name] = d;
+      // The loads are edited while their charts are watched.
+      if (name == "Loading" || name == "endforce") {
+        d->adjustSize();
+        placeBesideCharts(d);
+      }
       d->show();
     }
   }
@@ -805,6 +908,16 @@ void MainForm::syncDialogs() {
       ++it;
     }
   }
+  // One family's dialog at a time: choosing another family closes the dialog of the one before,
+  // through its own close, so that it leaves the core's list of open dialogs.
+  std::vector<QPointer<QWidget>> older;
+  for (const auto& [name, d] : dialogs_) {
+    const ProfileEntry* e = ProfileOfDialog(name);
+    if (e && d && e->type != s.project.ProfileType && !d->property("keptByForm").toBool()) older.push_back(d);
+  }
+  syncing_ = false;
+  for (const QPointer<QWidget>& d : older)
+    if (d) d->close();
 }
 
 QWidget* MainForm::openDialog(const std::string& name) {

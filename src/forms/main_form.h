@@ -4,6 +4,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QString>
 #include <map>
 #include <string>
 
@@ -17,6 +18,10 @@ namespace vn::forms {
 class Bindings;
 class Session;
 class PictureBox;
+
+// A text of the summary as rich text that breaks at its blanks only, each formula and row of numbers
+// whole and every "=" kept with the word before it.
+QString KeepWordsWhole(const std::string& text);
 
 class MainForm : public QMainWindow {
   Q_OBJECT
@@ -55,6 +60,8 @@ class MainForm : public QMainWindow {
   void buildForm();
   void onMenu(const std::string& control);
   void syncDialogs();
+  // Moves a dialog that edits the loads where it leaves the charts in view.
+  void placeBesideCharts(QWidget* d);
   QWidget* createDialog(const std::string& name);
   QAction* addEntry(QMenu* menu, const std::string& control, const QString& caption);
 
@@ -66,6 +73,9 @@ class MainForm : public QMainWindow {
   QTextEdit* summary_ = nullptr;
   QString shownSummary_;
   QLabel* error_ = nullptr;
+  QLabel* verdict_ = nullptr;
+  QLabel* note_ = nullptr;
+  bool syncing_ = false;
 };
 
 }  // namespace vn::forms

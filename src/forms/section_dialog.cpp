@@ -318,13 +318,20 @@ bool SectionDialog::event(QEvent* event) {
   return QDialog::event(event);
 }
 
+void SectionDialog::reject() { close(); }  // Esc closes as the Close button does
+
 void SectionDialog::closeEvent(QCloseEvent* event) {
   if (!closing_) {
+    auto& open = session_->state().view.openDialogs;
+    const bool listed = std::find(open.begin(), open.end(), form_) != open.end();
+    // A field left by the click on Close is left first; a refused value keeps the dialog open.
+    if (listed && !bindings_->flushFields()) {
+      event->ignore();
+      return;
+    }
     closing_ = true;
     // Unloading keeps the inputs in the project.
     const std::string unload = key("Command1");
-    auto& open = session_->state().view.openDialogs;
-    const bool listed = std::find(open.begin(), open.end(), form_) != open.end();
     if (listed && Session::knows(unload))
       session_->fire(unload);
     else if (listed)

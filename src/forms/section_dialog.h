@@ -58,6 +58,9 @@ class SectionDialog : public QDialog {
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
+ public slots:
+  void reject() override;
+
  private:
   std::string key(const char* control) const { return form_ + "." + control; }
 

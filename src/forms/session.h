@@ -33,6 +33,8 @@ Boxes& boxes();
 // The default boxes again.
 void ResetBoxes();
 
+struct LoadsSeen;
+
 class Session : public QObject {
   Q_OBJECT
 
@@ -51,6 +53,11 @@ class Session : public QObject {
   EventResult fire(const std::string& control, const std::string& text = {});
   // Fires and shows a refusal in a warning box over `parent`.
   EventResult fireAndTell(QWidget* parent, const std::string& control, const std::string& text = {});
+
+  // What the last events took off the member without being asked ("Loads removed: q-load 1 (Z),
+  // axial load 1 (not carried by T)."), shown in the main form's message area; empty when nothing.
+  // The person's own edits of the loads, a new project and an opened one never make it.
+  const QString& loadsNote() const { return loadsNote_; }
 
   // Whether the core has a control of that name.
   static bool knows(const std::string& control);
@@ -78,8 +85,11 @@ class Session : public QObject {
   void exitRequested();
 
  private:
+  void noteRemovedLoads(const std::string& control, const LoadsSeen& before);
+
   State state_;
   QPointer<QWidget> lastActive_;
+  QString loadsNote_;
 };
 
 }  // namespace vn::forms

@@ -3,6 +3,11 @@
 #include "results/summary.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include "core/format.h"
 #include "core/pipeline.h"
@@ -130,6 +135,105 @@ void ShowControls(State& s) {
     if (!an.deflTextY.Formula.empty())
       out.push_back(Control(an.deflTextY.Formula + an.deflTextY.Numbers, an.deflTextY, an.colDeflY));
   }
+  ShowVerdict(s);
+}
+
+namespace {
+
+// The number a ratio text shows ("0.17", "0,17"), or -1 when it shows none.
+double RatioOfText(const std::string& text) {
+  std::string t;
+  bool digits = false;
+  for (char c : text) {
+    if ((c >= '0' && c <= '9') || c == '.' || c == ',') {
+      t += c == ',' ? '.' : c;
+      digits = digits || (c >= '0' && c <= '9');
+    } else if (!t.empty()) {
+      break;
+    }
+  }
+  if (!digits) return -1;
+  double v = -1;  // read whatever the C locale of the moment says
+  const auto [end, error] = std::from_chars(t.data(), t.data() + t.size(), v);
+  return error == std::errc() ? v : -1;
+}
+
+// "IR = My,Ed/My,Rd" of "IR = My,Ed/My,Rd = ": the formula without its closing "=".
+std::string FormulaHead(std::string f) {
+  auto trim = [&f] {
+    while (!f.empty() && (f.back() == ' ' || f.back() == '=')) f.pop_back();
+  };
+  trim();
+  return f;
+}
+
+// "Ch 6.3.3" of " < 1.0 (0.50L; Ch 6.3.3)".
+std::string Clause(const std::string& limit) {
+  const size_t at = limit.find("Ch ");
+  if (at == std::string::npos) return {};
+  const size_t end = limit.find_first_of(");", at);
+  std::string c = limit.substr(at, end == std::string::npos ? std::string::npos : end - at);
+  while (!c.empty() && c.back() == ' ') c.pop_back();
+  return c;
+}
+
+}  // namespace
+
+void ShowVerdict(State& s) {
+  const Project& p = s.project;
+  const Checks& k = s.checks;
+  const Analysis& an = s.analysis;
+  s.view.verdict.clear();
+  s.view.verdictColour = 0;
+
+  struct Candidate {
+    const char* block;
+    const ControlText* text;
+    double ratio;
+    Integer colour;
+  };
+  std::vector<Candidate> lines;
+  for (size_t g = 1; g <= 3; ++g)
+    if (!k.secText[g].Formula.empty()) lines.push_back({"section", &k.secText[g], k.IRsec[g], k.colSec[g]});
+  if (HasBucklingBlock(p.ProfileType)) {
+    if (!k.buckTextY.Formula.empty()) lines.push_back({"buckling", &k.buckTextY, k.IRbuckY, k.colBuckY});
+    if (!k.buckTextZ.Formula.empty()) lines.push_back({"buckling", &k.buckTextZ, k.IRbuckZ, k.colBuckZ});
+    if (!k.buckTextLT.Formula.empty()) lines.push_back({"buckling", &k.buckTextLT, k.IRbuckLT, k.colLT});
+  }
+  if (p.checkSLS != 0) {
+    if (!an.deflTextZ.Formula.empty())
+      lines.push_back({"deflection", &an.deflTextZ, an.IRdeflZ, an.colDeflZ});
+    if (!an.deflTextY.Formula.empty())
+      lines.push_back({"deflection", &an.deflTextY, an.IRdeflY, an.colDeflY});
+  }
+  if (lines.empty()) return;
+
+  // The ratio of a line is the larger of the number the control kept and the one its text shows,
+  // so that the verdict never reads lower than the summary beside it.
+  const double limit = an.IRlimit;
+  const Candidate* governing = nullptr;
+  double largest = -1;
+  bool fails = false;
+  for (const Candidate& c : lines) {
+    const double ratio = std::max(std::fabs(c.ratio), RatioOfText(c.text->Ratio));
+    if (ratio > largest) {  // the first of equal ratios keeps the place
+      largest = ratio;
+      governing = &c;
+    }
+    fails = fails || c.colour == kRed || ratio > limit;
+  }
+  const ControlText& t = *governing->text;
+  std::string ratio = t.Ratio;
+  if (RatioOfText(ratio) < 0) ratio = FormatNumber(largest, "0.00", s.decimalComma);
+  std::string where = Clause(t.Limit);
+  if (where.empty() && std::string(governing->block) == "deflection")
+    where = "L/" + FormatNumber(p.deflectionLimit, "0", s.decimalComma);
+  std::string v = fails ? "NOT OK: " : "OK: ";
+  v += "governing IR = " + ratio + (fails ? " > " : " <= ") + FormatNumber(limit, "0.0", s.decimalComma) +
+       ", " + governing->block + " control: " + FormulaHead(t.Formula);
+  if (!where.empty()) v += " (" + where + ")";
+  s.view.verdict = v;
+  s.view.verdictColour = fails ? kRed : kGreen;
 }
 
 namespace {

@@ -218,6 +218,71 @@ TEST(ShowControls, DeflectionBlockOnlyWithTheServiceabilityCheck) {
   EXPECT_EQ(lines.back(), "IR = dy/dyMax = -20.0/16.7 =   1.20 [NOT OK] < 1.0");
 }
 
+// The verdict line: the largest ratio of the lines shown governs, with its block, its formula
+// without the closing "=" and its clause; any red line makes the run NOT OK.
+TEST(ShowVerdict, LargestShownRatioGovernsWithItsFormulaAndClause) {
+  State s = Recorded();
+  Checks& k = s.checks;
+  k.secText[1] = Text("IR = My,Ed/My,Rd = ", "42.2/447.1 = ", "0.09", " < 1.0 (0.50L; Ch 6.2.5)");
+  k.IRsec[1] = 42.2 / 447.1;
+  k.colSec[1] = 2;
+  k.buckTextZ = Text("IR = NEd/(Xz*NRd)", "135.0/(0.60*3993.8)", "0.06", " < 1.0 (Ch 6.3.1)");
+  k.IRbuckZ = 135.0 / (0.60 * 3993.8);
+  k.colBuckZ = 2;
+  k.buckTextLT = Text("IR = My,Ed/(xLT*My,Rd) = ", "42.2/(0.85*447.1) = ", "0.11", " < 1.0 (Ch 6.3.2)");
+  k.IRbuckLT = 42.2 / (0.85 * 447.1);
+  k.colLT = 2;
+  ShowControls(s);
+  EXPECT_EQ(s.view.verdict,
+            "OK: governing IR = 0.11 <= 1.0, buckling control: IR = My,Ed/(xLT*My,Rd) (Ch 6.3.2)");
+  EXPECT_EQ(s.view.verdictColour, 2);
+
+  // A deflection of L/250 against L/300 (20.0 / 16.7 = 1.20) governs and fails.
+  Analysis& an = s.analysis;
+  s.project.checkSLS = True;
+  an.deflTextZ = Text("IR = dz/dzMax = ", "20.0/16.7 = ", "1.20", " < 1.0");
+  an.IRdeflZ = 20.0f / 16.7f;
+  an.colDeflZ = 4;
+  ShowControls(s);
+  EXPECT_EQ(s.view.verdict, "NOT OK: governing IR = 1.20 > 1.0, deflection control: IR = dz/dzMax (L/300)");
+  EXPECT_EQ(s.view.verdictColour, 4);
+  // The specified summary text is not touched by the verdict.
+  EXPECT_EQ(Lines(SummaryText(s))[0],
+            "Governing Loadcase: EN1990 ULS: Eq 6.10: LC = 1.35*G + 1.5*Q1 + 1.5*0.7*Q2 "
+            " / EN1990 SLS: Eq 6.14a: LC = G + Q1 + 0.7*Q2");
+}
+
+// A ratio whose kept number lags behind its text is read from the text: the verdict never reads
+// lower than the summary beside it. A red line fails the run whatever the numbers say.
+TEST(ShowVerdict, NeverReadsLowerThanTheSummary) {
+  State s = Recorded();
+  Checks& k = s.checks;
+  k.secText[1] = Text("IR = My,Ed/My,Rd = ", "632.8/447.1 = ", "1.42", " < 1.0 (0.50L; Ch 6.2.5)");
+  k.IRsec[1] = 0;  // not kept as a number
+  k.colSec[1] = 4;
+  k.secText[3] = Text("IR = Vz,Ed/Vz,Rd = ", "506.3/763.5 = ", "0.66", " < 1.0 (0.00L; Ch 6.2.6)");
+  k.IRsec[3] = 506.3 / 763.5;
+  k.colSec[3] = 2;
+  ShowControls(s);
+  EXPECT_EQ(s.view.verdict,
+            "NOT OK: governing IR = 1.42 > 1.0, section control: IR = My,Ed/My,Rd (Ch 6.2.5)");
+  EXPECT_EQ(s.view.verdictColour, 4);
+}
+
+TEST(ShowVerdict, NoControlLineNoVerdictAndNoneAfterAFailedRun) {
+  State s = Recorded();
+  ShowControls(s);
+  EXPECT_EQ(s.view.verdict, "");
+  State started = StartedState();
+  EXPECT_EQ(started.view.verdict.rfind("OK: governing IR = ", 0), 0u);
+  started.section = Section{};
+  started.project.SelectedRow[0] = 999;
+  Recalculate(started);
+  ASSERT_FALSE(started.resultsValid);
+  EXPECT_EQ(started.view.verdict, "");
+  EXPECT_EQ(started.view.verdictColour, 0);
+}
+
 TEST(SummaryText, AFailedRunShowsTheMessageAlone) {
   State s = StartedState();
   s.section = Section{};  // nothing to compute with: the run faults in the section stage

@@ -1,0 +1,17 @@
+# A picture made from the command line opens a project (which puts it at the top of the recent
+# files) and still leaves the person's settings as they were: nothing is written under the home.
+file(REMOVE_RECURSE "${WORK}")
+file(MAKE_DIRECTORY "${WORK}/config" "${WORK}/home")
+set(ENV{XDG_CONFIG_HOME} "${WORK}/config")
+set(ENV{HOME} "${WORK}/home")
+set(ENV{QT_QPA_PLATFORM} "offscreen")
+foreach(args "--screenshot;${WORK}/main.png" "--screenshot-report;stability;${WORK}/report.png")
+  execute_process(COMMAND "${VARNELT}" ${args} "${PROJECT}" RESULT_VARIABLE rc OUTPUT_QUIET ERROR_QUIET)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "varnelt ${args} ended with ${rc}")
+  endif()
+endforeach()
+file(GLOB_RECURSE written "${WORK}/config/*" "${WORK}/home/*")
+if(written)
+  message(FATAL_ERROR "settings written by a picture: ${written}")
+endif()
