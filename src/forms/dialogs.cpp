@@ -775,25 +775,27 @@ FormDialog* LtbDialog(Session* s, QWidget* owner) {
   auto* cg = Inside<QGridLayout>(capacity);
   cg->addWidget(Check(d, "Cfactor", "Manual input of C-factors"), 0, 0, 1, 3);
   const char* fields[3][2] = {{"C1i =", "ic1"}, {"C2i =", "ic2"}, {"C3i =", "ic3"}};
+  // Each factor the program works out stands on the row of the factor typed in its place.
+  const char* results[3] = {"C1", "C2", "C3"};
   for (int r = 0; r < 3; ++r) {
     cg->addWidget(Right(fields[r][0]), r + 1, 0);
     cg->addWidget(NumberField(d, fields[r][1], 56), r + 1, 1);
+    cg->addWidget(Shown(d, results[r]), r + 1, 2);
   }
-  cg->addWidget(Check(d, "C1factor", "Alternative calculation of C1"), 4, 0, 1, 3);
-  auto* results = new QVBoxLayout;
-  for (const char* name : {"C1", "C2", "C3", "Mcr", "MdRb"}) results->addWidget(Shown(d, name));
-  cg->addLayout(results, 1, 2, 3, 1);
+  cg->addWidget(Shown(d, "Mcr"), 4, 1, 1, 2);
+  cg->addWidget(Shown(d, "MdRb"), 5, 1, 1, 2);
+  cg->addWidget(Check(d, "C1factor", "Alternative calculation of C1"), 6, 0, 1, 3);
   auto* part = new QHBoxLayout;
   part->addWidget(new QLabel("Beampart:"));
   part->addWidget(Shown(d, "Beampart"));
   part->addStretch();
-  cg->addLayout(part, 5, 0, 1, 3);
+  cg->addLayout(part, 7, 0, 1, 3);
   auto* only = Group("Only valid for loaded member and no restraints");
   auto* ol = Inside<QVBoxLayout>(only);
   ol->addWidget(
       Note("This has only influence if you have loading on the beam and that  lateral "
            "restraint points = 0 (C2-factor)"));
-  cg->addWidget(only, 6, 0, 1, 3);
+  cg->addWidget(only, 8, 0, 1, 3);
   cg->setColumnStretch(2, 1);
   main->addWidget(capacity, 0, 1, 4, 1);
   main->addLayout(Foot({}, d->closeButton()), 4, 0, 1, 2);
@@ -812,7 +814,8 @@ FormDialog* DetailDialog(Session* s, QWidget* owner) {
   grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
   grid->setSelectionMode(QAbstractItemView::NoSelection);
   grid->setFocusPolicy(Qt::NoFocus);
-  grid->setMinimumSize(560, 420);
+  // About thirty rows in view, the rest a scroll away; the values whole.
+  grid->setMinimumSize(640, 30 * (grid->fontMetrics().height() + 4));
   grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 4);
   main->addWidget(grid);
   auto fill = [d, grid] {

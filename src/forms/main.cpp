@@ -4,6 +4,7 @@
 //   varnelt --screenshot PATH [PROJECT.vnt]        the main form as a PNG picture, no display needed
 //   varnelt --screenshot-dialog NAME PATH [PROJECT] a dialog ("p01") as a PNG picture
 //   varnelt --screenshot-report KIND PATH [PROJECT] the printed report "section" or "stability"
+//   varnelt --pdf KIND PATH [PROJECT.vnt]          the report written as a PDF, no print dialog
 //   --do CONTROL[=TEXT]  fires an event before the picture is taken, as varnelt-cli does
 //                        (--do p10.pic1 shows the figures to scale)
 #include <QApplication>
@@ -37,6 +38,7 @@ const char* kUsage =
     "       varnelt --screenshot PATH [PROJECT.vnt]\n"
     "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n"
     "       varnelt --screenshot-report section|stability PATH [PROJECT.vnt]\n"
+    "       varnelt --pdf section|stability PATH [PROJECT.vnt]\n"
     "       --do CONTROL[=TEXT] before a screenshot fires an event, e.g. --do p10.pic1 (repeatable)\n"
     "       varnelt --version\n";
 
@@ -60,7 +62,7 @@ bool Save(QWidget* w, const QString& path) {
 int main(int argc, char** argv) {
   std::string shotPath, dialogName, reportKind, projectPath;
   std::vector<std::string> events;
-  bool shot = false;
+  bool shot = false, pdf = false;
   for (int i = 1; i < argc; ++i) {
     const std::string a = argv[i];
     if (a == "--screenshot" && i + 1 < argc) {
@@ -76,6 +78,14 @@ int main(int argc, char** argv) {
       shotPath = argv[++i];
       if (reportKind != "section" && reportKind != "stability") {
         std::fprintf(stderr, "varnelt: --screenshot-report takes section or stability\n");
+        return 2;
+      }
+    } else if (a == "--pdf" && i + 2 < argc) {
+      shot = pdf = true;  // made without a display, as a picture is
+      reportKind = argv[++i];
+      shotPath = argv[++i];
+      if (reportKind != "section" && reportKind != "stability") {
+        std::fprintf(stderr, "varnelt: --pdf takes section or stability\n");
         return 2;
       }
     } else if (a == "--do" && i + 1 < argc) {
@@ -155,7 +165,11 @@ int main(int argc, char** argv) {
       std::fprintf(stderr, "%s\n", vn::kNoResultsText);
       return 1;
     }
-    if (vn::forms::SaveReportPicture(session.state(), kind, QString::fromStdString(shotPath))) return 0;
+    if (pdf) {
+      if (vn::forms::WriteReportPdf(session.state(), kind, QString::fromStdString(shotPath)) > 0) return 0;
+    } else if (vn::forms::SaveReportPicture(session.state(), kind, QString::fromStdString(shotPath))) {
+      return 0;
+    }
     std::fprintf(stderr, "varnelt: can't write %s\n", shotPath.c_str());
     return 3;
   }

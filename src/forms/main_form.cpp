@@ -172,7 +172,7 @@ bool FormHandles(const std::string& control) {
   return control == "mnuexit" || control == "mnuabout" || control == "mnuProfDB" ||
          control == "mnuhelpcont" || control == "mnuhelpsearch" || control == "mnuTheory" ||
          control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" ||
-         control == "mnuprint11";
+         control == "mnuprint11" || control == "mnupdf0" || control == "mnupdf1";
 }
 
 // The help page, copied beside the program into help/.
@@ -255,6 +255,9 @@ void MainForm::buildMenus() {
   file->addSeparator()->setObjectName("mnuspc");
   addEntry(file, "mnuprint00", "Print - Section &Property and Capacity");
   addEntry(file, "mnuprint11", "Print  - Section and Stability Control");
+  // The reports as PDF files, written without the print dialog.
+  addEntry(file, "mnupdf0", "Export PDF - Section Property and Capacity...");
+  addEntry(file, "mnupdf1", "Export PDF - Section and Stability Control...");
   QAction* recentLine = file->addSeparator();
   recentLine->setObjectName("mnurecentfile(0)");
   actions_["mnurecentfile(0)"] = recentLine;
@@ -771,8 +774,8 @@ void MainForm::onMenu(const std::string& control) {
     OpenDocument(this, HelpPagePath(session_), QStringLiteral("Help not found: "));
     return;
   }
-  const bool print =
-      control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" || control == "mnuprint11";
+  const bool print = control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" ||
+                     control == "mnuprint11" || control == "mnupdf0" || control == "mnupdf1";
   if (print && !s.resultsValid) {
     // No report of an earlier run under the inputs that failed.
     boxes().warning(this, QString::fromUtf8(kNoResultsText));
@@ -784,6 +787,16 @@ void MainForm::onMenu(const std::string& control) {
   }
   if (control == "mnuprint1" || control == "mnuprint11") {
     PrintReport(this, s, ReportKind::Stability);
+    return;
+  }
+  if (control == "mnupdf0" || control == "mnupdf1") {
+    const auto kind = control == "mnupdf0" ? ReportKind::SectionCapacity : ReportKind::Stability;
+    const QString folder = QString::fromStdString(s.currentDir.empty() ? s.appPath : s.currentDir);
+    QString path = QFileDialog::getSaveFileName(this, "Export PDF", folder, "PDF (*.pdf)");
+    if (path.isEmpty()) return;
+    if (QFileInfo(path).suffix().isEmpty()) path += ".pdf";
+    if (WriteReportPdf(s, kind, path) == 0)
+      boxes().warning(this, "Can't write " + QDir::toNativeSeparators(path));
     return;
   }
   if (control == "mnuTheory") {

@@ -230,11 +230,15 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
     l->setColumnStretch(2, 1);
     return g;
   };
+  QGroupBox* typedProperties = nullptr;
   if (!fields.empty() && plate) {
     std::vector<std::string> sheet, stiffener;
     for (const std::string& f : fields) (f.back() == '1' ? sheet : stiffener).push_back(f);
     left->addWidget(fieldFrame("Plate:", sheet, nullptr));
     left->addWidget(fieldFrame("Stiffener:", stiffener, listed ? list_ : nullptr));
+  } else if (family.type == 41) {
+    // The general section's properties are what the engineer types: they fill the property frame.
+    typedProperties = fieldFrame("Section property", fields, nullptr);
   } else if (!fields.empty()) {
     left->addWidget(fieldFrame("Dimensions", fields, nullptr));
   }
@@ -285,8 +289,15 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   right->addStretch();
   right->addWidget(close, 0, Qt::AlignRight);
   grid->addLayout(left, 0, 0);
-  grid->addWidget(props, 0, 1);
+  if (typedProperties) {
+    grid->addWidget(typedProperties, 0, 1, Qt::AlignTop);
+    props->hide();  // the section values of this family are its inputs
+  } else {
+    grid->addWidget(props, 0, 1);
+  }
   grid->addLayout(right, 0, 2);
+  // The dialog takes the height of what it shows.
+  grid->setSizeConstraint(QLayout::SetFixedSize);
 
   // The figure's frame carries the longer of its two captions now.
   KeepCaptionsWhole(this);

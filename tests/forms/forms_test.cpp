@@ -121,6 +121,32 @@ class FormsTest : public QObject {
     QVERIFY(green);
   }
 
+  // The reports as PDF files: A4 pages, as many as the content needs, each numbered n/N.
+  void reportsAreWrittenAsPdfPagesWithoutThePrintDialog() {
+    QVERIFY(form->menuAction("mnupdf0") && form->menuAction("mnupdf0")->isEnabled());
+    QVERIFY(form->menuAction("mnupdf1") && form->menuAction("mnupdf1")->isEnabled());
+    QTemporaryDir dir;
+    auto pages = [](const QString& path) {
+      QFile f(path);
+      if (!f.open(QIODevice::ReadOnly)) return -1;
+      const QByteArray pdf = f.readAll();
+      if (!pdf.startsWith("%PDF")) return -1;
+      // Each page object is "/Type /Page"; the page tree is "/Type /Pages".
+      int n = 0;
+      auto it = QRegularExpression("/Type\\s*/Page(?!s)").globalMatch(QString::fromLatin1(pdf));
+      for (; it.hasNext(); it.next()) ++n;
+      return n;
+    };
+    // The section report of an HEA 300 fits on one page with its figure; the stability report
+    // with its member figure and charts needs a second.
+    const QString section = dir.filePath("section.pdf"), stability = dir.filePath("stability.pdf");
+    QCOMPARE(WriteReportPdf(session->state(), vn::ReportKind::SectionCapacity, section), 1);
+    QCOMPARE(pages(section), 1);
+    const int n = WriteReportPdf(session->state(), vn::ReportKind::Stability, stability);
+    QVERIFY(n >= 2);
+    QCOMPARE(pages(stability), n);
+  }
+
   // After a failed run no result of the run before is on show or printed: the summary is empty
   // beside the error text, and each print entry answers with its message instead of a report.
   void aFailedRunShowsNoResultAndPrintsNoReport() {
@@ -131,8 +157,10 @@ class FormsTest : public QObject {
     QTRY_VERIFY(control<QLabel>("txtError")->isVisible());
     QVERIFY(control<QTextEdit>("summary")->toPlainText().trimmed().isEmpty());
     QVERIFY(!control<QLabel>("verdict")->isVisible());  // no verdict without results
-    for (const char* entry : {"mnuprint0", "mnuprint1"}) form->menuAction(entry)->trigger();
-    QCOMPARE(warnings, (QStringList{vn::kNoResultsText, vn::kNoResultsText}));
+    for (const char* entry : {"mnuprint0", "mnuprint1", "mnupdf0", "mnupdf1"})
+      form->menuAction(entry)->trigger();
+    QCOMPARE(warnings,
+             (QStringList{vn::kNoResultsText, vn::kNoResultsText, vn::kNoResultsText, vn::kNoResultsText}));
   }
 
   // ---- file actions ----
