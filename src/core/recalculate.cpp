@@ -79,8 +79,11 @@ void Recalculate(State& s) {
     ShowControls(s);
     UpdateMainFormState(s);
     // The section values once more: the shear resistances among them come from the controls, and
-    // an open dialog must not show those of the run before.
+    // an open dialog must not show those of the run before. The same for the curve letters beside
+    // the buckling curve lists, which the refresh of the main form would show only later.
     ShowSectionValues(s);
+    s.view.text["obcy"] = s.checks.curveTextY;
+    s.view.text["obcz"] = s.checks.curveTextZ;
     s.resultsValid = true;
     return;
   } catch (const CalcFault&) {

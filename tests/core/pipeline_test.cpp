@@ -223,6 +223,17 @@ TEST(SectionValues, ShowTheShearResistanceOfTheRunThatEnded) {
   EXPECT_EQ(shown("Vc,z,Rd ="), "1652.8");
 }
 
+// The curve letters beside the lists follow the family at once: an HEA 300 (h/b <= 1.2, tf <= 100)
+// buckles on b about y and c about z; a hot finished SHS on a about both.
+TEST(SectionValues, TheCurveLettersFollowTheFamilyAtOnce) {
+  State s = test::StartedState();
+  EXPECT_EQ(s.view.text["obcy"], "b");
+  EXPECT_EQ(s.view.text["obcz"], "c");
+  Fire(s, "mnup06");
+  EXPECT_EQ(s.view.text["obcy"], "a");
+  EXPECT_EQ(s.view.text["obcz"], "a");
+}
+
 TEST(FieldProtocol, AnIntegerOverflowIsSilentAndKeepsTheOldValue) {
   State s = NewState();
   Fire(s, "cbutt3");
