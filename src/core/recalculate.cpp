@@ -56,6 +56,10 @@ void Recalculate(State& s) {
   Project& p = s.project;
   ++s.recalcCount;
   s.resultsValid = false;
+  // The frequencies belong to the run that computes them: a run without the modal stage (the box
+  // ticked since, which does not recalculate) has none, rather than another member's.
+  s.analysis.ModalMass = 0;
+  s.analysis.ModalFreq.fill(0);
   Reached reached = Reached::Nothing;
   // The trap: any fault of a stage ends the run at the message below.
   try {

@@ -447,7 +447,8 @@ void StabilityReport(const State& s, Report& r) {
   Loading(pg);
   BucklingParameters(pg);
   Controls(pg);
-  if (p.chModal == 1) {
+  // The modal block only with the frequencies of this run: a box ticked since the last run has none.
+  if (p.chModal == 1 && s.analysis.ModalMass > 0) {
     pg.Blank();
     pg.Heading("Modal analysis:");
     for (size_t i = 1; i <= 3; ++i)

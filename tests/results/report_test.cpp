@@ -249,6 +249,18 @@ const LabelCase kLabelCases[] = {
      ReportKind::Stability,
      {"f1 = 11.68 Hz", "Mass m = 1108 kg/m (Selfweigth + q-loads)"},
      {}},
+    // The box ticked after a modal run of a longer member, without a run since (ticking does not
+    // recalculate): no frequencies of the other member, no "Mass m = 0".
+    {"modal box ticked since the last run",
+     [](State& s) {
+       Run(s, [](Project& p) { p.chModal = 1, p.L = 8; });
+       Fire(s, "ch_modal", "0");
+       Fire(s, "il", "5");
+       Fire(s, "ch_modal", "1");
+     },
+     ReportKind::Stability,
+     {},
+     {"Modal analysis:", "Mass m", "f1 = "}},
     {"web stiffeners",
      [](State& s) { Run(s, [](Project& p) { p.webStiffeners = 1, p.a = 1000; }); },
      ReportKind::Stability,
