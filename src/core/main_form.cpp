@@ -299,9 +299,7 @@ void RefreshMainForm(State& s) {
   // The list selections above fire their Click events; one run with the record as it stands
   // gives the same results.
   Recalculate(s);
-  // The curve labels show what the last control chose; nothing after a failed run.
-  v.text["obcy"] = s.resultsValid ? s.checks.curveTextY : std::string();
-  v.text["obcz"] = s.resultsValid ? s.checks.curveTextZ : std::string();
+  // The curve labels beside the lists are set by the run itself (and cleared by a failed one).
 }
 
 }  // namespace vn
