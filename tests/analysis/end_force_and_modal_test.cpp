@@ -182,6 +182,15 @@ TEST(Modal, UsesBendingAboutYOnly) {
   EXPECT_EQ(Printed(f1, "0.00"), "12.71");
 }
 
+TEST(Modal, PinnedFixedCoefficients) {
+  State s = ModalState(1);
+  ModalAnalysis(s);
+  // 2.45, 7.95 and 16.6 times 3.570288: 8.7472, 28.3838 and 59.2668 Hz
+  EXPECT_EQ(Printed(s.analysis.ModalFreq[1], "0.00"), "8.75");
+  EXPECT_EQ(Printed(s.analysis.ModalFreq[2], "0.00"), "28.38");
+  EXPECT_EQ(Printed(s.analysis.ModalFreq[3], "0.00"), "59.27");
+}
+
 TEST(Modal, CantileverCoefficients) {
   State s = ModalState(4);
   ModalAnalysis(s);
