@@ -46,6 +46,10 @@ void StrutLines(State& s, bool yLine, bool zLine, const char* ratioPrefix, doubl
 // The line of a strut that 6.3.1.2 (4) lets off.
 inline constexpr const char* kNoBucklingText =
     "No Buckling, ref ch 6.3.1.2 (4);  lamdaby/lamdabz<=0.2 or Ned/Ncry<=0.04; Ned/Ncry<=0.04";
+// Whether 6.3.1.2 (4) lets a strut without moments off its buckling check, both axes together:
+// every slenderness at most 0.2, or NEd at most 4 % of every critical force. Under the strict rules
+// the torsional or torsional-flexural mode of the section counts as a third axis.
+bool StrutLetOff(const State& s, double NEd);
 // The lateral torsional line alone: LateralTorsionalControl, then, where a moment governs, the line
 // and its colour; IRlt gets the ratio.
 void LateralTorsionalLine(State& s, const BucklingStyle& style, double& IRlt);

@@ -173,10 +173,8 @@ void BucklingControlAngle(State& s) {
     const bool moments = an.MyAbs != 0 || an.MzGov != 0;
     if (!moments) {
       // 5. 6.3.1.2 (4) on y and z together, and on v besides.
-      const bool stocky = k.lamday <= 0.2 && k.lamdaz <= 0.2;
-      const bool light = std::fabs(Div(NEd, k.Ncry)) <= 0.04 && std::fabs(Div(NEd, k.Ncrz)) <= 0.04;
       const bool vFree = k.lamdav <= 0.2 || std::fabs(Div(NEd, k.Ncrv)) <= 0.04;
-      if ((stocky || light) && vFree) {
+      if (StrutLetOff(s, NEd) && vFree) {
         k.buckTextY = ControlText{};
         k.buckTextZ = ControlText{};
         k.buckTextLT = ControlText{};

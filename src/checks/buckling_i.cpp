@@ -156,7 +156,9 @@ void StrutLines(State& s, bool yLine, bool zLine, const char* ratioPrefix, doubl
     return ir;
   };
   if (yLine) IRy = line(k.buckTextY, "IR = NEd/Nb,y,Rd ", k.NbyRd, k.colBuckY);
-  if (zLine) IRz = line(k.buckTextZ, "IR = NEd/Nb,z,Rd ", k.NbzRd, k.colBuckZ);
+  // The z line names the torsional mode where the strict rules found it governing.
+  const char* zFormula = k.torsionalGoverns != 0 ? "IR = NEd/Nb,T,Rd " : "IR = NEd/Nb,z,Rd ";
+  if (zLine) IRz = line(k.buckTextZ, zFormula, k.NbzRd, k.colBuckZ);
 }
 
 void BucklingControlI(State& s) {
@@ -226,9 +228,7 @@ void RunBucklingControl(State& s, const BucklingStyle& style) {
     const bool moments = an.MyAbs != 0 || an.MzGov != 0;
     if (!moments) {
       // 6.3.1.2 (4): a stocky or lightly loaded strut needs no buckling check, both axes together.
-      const bool stocky = k.lamday <= 0.2 && k.lamdaz <= 0.2;
-      const bool light = std::fabs(Div(NEd, k.Ncry)) <= 0.04 && std::fabs(Div(NEd, k.Ncrz)) <= 0.04;
-      if (stocky || light) {
+      if (StrutLetOff(s, NEd)) {
         k.buckTextY = ControlText{};
         k.buckTextZ = ControlText{};
         k.buckTextY.Formula = kNoBucklingText;

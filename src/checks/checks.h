@@ -41,6 +41,11 @@ struct Checks {
   Number Ncry = 0, lamday = 0, chiy = 0;
   Number Ncrz = 0, lamdaz = 0, chiz = 0;
   Number NcrT = 0, NcrTF = 0;
+  // Under the strict rules (6.3.1.4): the slenderness, reduction factor and resistance of the
+  // torsional or torsional-flexural mode of a section that has one, and whether that mode, not
+  // flexure about z, gives the z line (its chiz and NbzRd are then the mode's).
+  Number lamdaT = 0, chiT = 0, NbTRd = 0;
+  Boolean torsionalGoverns = False;
 
   // Interaction factors (rows 24-46).
   Number kyy = 0, kyz = 0, kzz = 0, kzy = 0;

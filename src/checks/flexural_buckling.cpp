@@ -2,9 +2,11 @@
 // reduction factors, and the torsional and torsional-flexural critical loads of 6.3.1.4.
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "checks/buckling.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -129,6 +131,48 @@ void SelectBucklingCurve(State& s) {
   choose(p.bucklingCurveZ, autoZ, k.alphaZ, k.curveTextZ);
 }
 
+namespace {
+
+// The torsional-flexural critical force of an unequal angle (kN): the lowest root of
+//   i0^2 (N - Nu)(N - Nv)(N - NT) - N^2 u0^2 (N - Nv) - N^2 v0^2 (N - Nu) = 0,
+// u0 and v0 the shear centre's co-ordinates from the centroid on the principal axes, Nu and Nv the
+// flexural critical forces about u and v, NT the torsional one. The cubic is negative at 0 and not
+// negative at the least of Nu, Nv, NT, with its only root below that least one there: bisection
+// finds it. (dy, dz) is the shear centre's offset from the centroid along the legs; u runs at alfa
+// from y.
+double AngleNcrTF(const State& s, double dy, double dz, double i02) {
+  const Section& c = s.section;
+  const Checks& k = s.checks;
+  const double a = static_cast<double>(c.alfa) * std::numbers::pi / 180;
+  const double u0 = dy * std::cos(a) + dz * std::sin(a);
+  const double v0 = dz * std::cos(a) - dy * std::sin(a);
+  const double Nu = k.Ncru, Nv = k.Ncrv, NT = k.NcrT;
+  auto f = [&](double N) {
+    return i02 * (N - Nu) * (N - Nv) * (N - NT) - N * N * u0 * u0 * (N - Nv) - N * N * v0 * v0 * (N - Nu);
+  };
+  double lo = 0, hi = std::min({Nu, Nv, NT});
+  if (!(hi > 0) || !std::isfinite(hi)) return hi;
+  for (int i = 0; i < 200 && hi - lo > 1e-9 * hi; ++i) {
+    const double mid = 0.5 * (lo + hi);
+    (f(mid) < 0 ? lo : hi) = mid;
+  }
+  return hi;
+}
+
+}  // namespace
+
+bool StrutLetOff(const State& s, double NEd) {
+  const Checks& k = s.checks;
+  bool stocky = k.lamday <= 0.2 && k.lamdaz <= 0.2;
+  bool light = std::fabs(Div(NEd, k.Ncry)) <= 0.04 && std::fabs(Div(NEd, k.Ncrz)) <= 0.04;
+  if (k.lamdaT > 0) {  // the strict rules' torsional mode
+    stocky = stocky && k.lamdaT <= 0.2;
+    light = light &&
+            std::fabs(Div(NEd, std::min(static_cast<double>(k.NcrT), static_cast<double>(k.NcrTF)))) <= 0.04;
+  }
+  return stocky || light;
+}
+
 void BucklingFactors(State& s) {
   const Project& p = s.project;
   const Section& c = s.section;
@@ -179,21 +223,30 @@ void BucklingFactors(State& s) {
   const double LT = LTlength * 1000;
   const double E = p.E, G = E / 2.6;
   double i02 = is2;
-  double Ncr = 0;
+  double Ncr = 0, dy = 0, dz = 0;
   bool flexuralMode = true;
+  const bool strict = StrictRules(s);
   if (type == 5 || type == 16 || type == 103) {
-    // Channel: the shear centre lies off the web, on the far side from the centroid.
-    const double y0 = static_cast<double>(c.ey) + c.em;
+    // Channel: the shear centre lies off the web, on the far side from the centroid. The program's
+    // own method adds ey, the centroid's distance from the back of the web, to em, which is already
+    // the distance from the centroid to the shear centre; the strict rules take y0 = em.
+    const double y0 = strict ? static_cast<double>(c.em) : static_cast<double>(c.ey) + c.em;
     i02 = is2 + y0 * y0;
     Ncr = k.Ncry;
   } else if (type == 10 || type == 11) {
-    const double dy = static_cast<double>(c.eyc) - c.tw / 2.0;
-    const double dz = static_cast<double>(c.ez) - c.tw / 2.0;
+    // The shear centre of an angle lies where the legs' mid-lines meet.
+    dy = static_cast<double>(c.eyc) - c.tw / 2.0;
+    dz = static_cast<double>(c.ez) - c.tw / 2.0;
     i02 = is2 + dy * dy + dz * dz;
-    Ncr = k.Ncry;
+    // An equal angle is symmetric about u, on which its shear centre lies: twist couples with flexure
+    // about u. The program's own method takes flexure about y; the strict rules take u.
+    Ncr = strict && type == 10 ? k.Ncru : k.Ncry;
   } else if (type == 22) {
+    // Symmetric about z, the shear centre off the centroid on z: torsion couples with flexure about
+    // the axis of symmetry, z. The program's own method couples it with flexure about y, which gives
+    // a higher Ncr,TF; the strict rules take Ncr,z.
     i02 = is2 + k.zs * k.zs;
-    Ncr = k.Ncry;
+    Ncr = strict ? k.Ncrz : k.Ncry;
   } else if (type == 26) {
     const double d = static_cast<double>(c.ez) - c.tf / 2.0;
     i02 = is2 + d * d;
@@ -207,6 +260,30 @@ void BucklingFactors(State& s) {
   } else {
     const double sum = Ncr + k.NcrT;
     k.NcrTF = Div(i02, 2 * is2) * (sum - Sqrt(sum * sum - Div(4 * Ncr * k.NcrT * is2, i02)));
+  }
+  // The shear centre of an unequal angle lies off both principal axes: twist couples with flexure
+  // about both, and the strict rules take the lowest root of the full cubic (it lies below Ncr,v, so
+  // that this mode, not flexure about v, is the member's lowest).
+  if (strict && type == 11) k.NcrTF = AngleNcrTF(s, dy, dz, i02);
+
+  // 6.3.1.4: a section with a torsional-flexural mode (channel, angle, T, single symmetric I) also
+  // buckles in torsion or torsional-flexure, lamda,T = sqrt(A fy/Ncr) with Ncr the smaller of Ncr,T
+  // and Ncr,TF (Aeff for class 4), on the buckling curve about z. The program's own method has no
+  // such line. Under the strict rules the z line takes that mode where its resistance is the lower
+  // one, and chi,z of the interaction with it (the lower of the two reduction factors).
+  k.lamdaT = k.chiT = k.NbTRd = 0;
+  k.torsionalGoverns = False;
+  if (strict && flexuralMode) {
+    const double NcrMode = std::min(static_cast<double>(k.NcrT), static_cast<double>(k.NcrTF));
+    const double NRk = static_cast<double>(p.fyk) * (c.classN < 4 ? c.A : c.Aeff);
+    k.lamdaT = Sqrt(Div(NRk, NcrMode * 1000));
+    k.chiT = FlexuralChi(k.lamdaT, k.alphaZ);
+    k.NbTRd = k.chiT * c.NRdBuck;
+    if (k.NbTRd < k.NbzRd) {
+      k.chiz = k.chiT;
+      k.NbzRd = k.NbTRd;
+      k.torsionalGoverns = True;
+    }
   }
 }
 

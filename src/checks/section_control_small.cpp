@@ -196,12 +196,12 @@ void BucklingControlT(State& s) {
     k.buckTextY.Formula = "No Buckling";
   } else if (NEd > 0) {
     if (p.bucklingFactorY > kHeld) line(k.buckTextY, "IR = NEd/Nb,y,Rd = ", k.NbyRd, IRy, k.colBuckY);
-    if (p.bucklingFactorZ > kHeld) line(k.buckTextZ, "IR = NEd/Nb,z,Rd = ", k.NbzRd, IRz, k.colBuckZ);
+    if (p.bucklingFactorZ > kHeld)
+      line(k.buckTextZ, k.torsionalGoverns != 0 ? "IR = NEd/Nb,T,Rd = " : "IR = NEd/Nb,z,Rd = ", k.NbzRd, IRz,
+           k.colBuckZ);
     // 6.3.1.2 (4) for a strut without moments, both axes together.
     if (an.MyAbs == 0 && an.MzGov == 0) {
-      const bool stocky = k.lamday <= 0.2 && k.lamdaz <= 0.2;
-      const bool light = std::fabs(Div(NEd, k.Ncry)) <= 0.04 && std::fabs(Div(NEd, k.Ncrz)) <= 0.04;
-      if (stocky || light) {
+      if (StrutLetOff(s, NEd)) {
         k.buckTextY = ControlText{};
         k.buckTextZ = ControlText{};
         k.buckTextY.Formula = kNoBucklingText;
