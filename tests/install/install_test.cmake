@@ -46,12 +46,12 @@ if(NOT out STREQUAL "varnelt-cli ${VERSION}\n")
   message(FATAL_ERROR "the installed varnelt-cli --version gave: ${out}")
 endif()
 
-# The same program alone in another folder finds no data: it reads nothing from the build folder,
+# The same program alone under another prefix finds no data: it reads nothing from the build folder,
 # and the message names the folder it looked in.
-file(MAKE_DIRECTORY "${PREFIX}/alone")
-file(COPY "${PREFIX}/bin/varnelt-cli" DESTINATION "${PREFIX}/alone")
-run(COMMAND "${PREFIX}/alone/varnelt-cli" --summary OUT out STATUS status)
-if(NOT status EQUAL 3 OR NOT out MATCHES "data file missing: ${PREFIX}/alone/VarneltECmat.dat")
+file(MAKE_DIRECTORY "${PREFIX}/alone/bin")
+file(COPY "${PREFIX}/bin/varnelt-cli" DESTINATION "${PREFIX}/alone/bin")
+run(COMMAND "${PREFIX}/alone/bin/varnelt-cli" --summary OUT out STATUS status)
+if(NOT status EQUAL 3 OR NOT out MATCHES "data file missing: ${PREFIX}/alone/bin/VarneltECmat.dat")
   message(FATAL_ERROR "varnelt-cli without its data files gave (status ${status}):\n${out}")
 endif()
 
