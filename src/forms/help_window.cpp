@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTabWidget>
@@ -19,6 +20,13 @@
 #include <QVBoxLayout>
 
 namespace vn::forms {
+
+namespace {
+QRegularExpression WordStart(const QString& word) {
+  return QRegularExpression("(?<![\\w])" + QRegularExpression::escape(word),
+                            QRegularExpression::CaseInsensitiveOption);
+}
+}  // namespace
 
 HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
   setObjectName("help");
@@ -158,8 +166,9 @@ QStringList HelpWindow::search(const QString& words) {
   for (int i = 0; i < static_cast<int>(sections_.size()); ++i) {
     // A chapter's own text runs to its first sub-section; each sub-section is a topic of its own.
     const QString text = all.mid(sections_[i].start, sections_[i].end - sections_[i].start);
+    // A word matches at the start of a word of the page: "sign" finds "signs", not "design".
     bool every = true;
-    for (const QString& w : words_) every = every && text.contains(w);
+    for (const QString& w : words_) every = every && text.contains(WordStart(w));
     if (!every) continue;
     auto* item = new QListWidgetItem(sections_[i].heading);
     item->setData(Qt::UserRole, i);
@@ -178,7 +187,8 @@ void HelpWindow::markWords(int index) {
   QTextCharFormat yellow;
   yellow.setBackground(QColor(255, 235, 110));
   for (const QString& w : words_) {
-    for (QTextCursor c = doc->find(w); !c.isNull(); c = doc->find(w, c)) marks.push_back({c, yellow});
+    const QRegularExpression start = WordStart(w);
+    for (QTextCursor c = doc->find(start); !c.isNull(); c = doc->find(start, c)) marks.push_back({c, yellow});
   }
   browser_->setExtraSelections(marks);
   // The first word found in the topic, in view.

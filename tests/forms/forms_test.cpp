@@ -854,6 +854,9 @@ class FormsTest : public QObject {
     QCOMPARE(help->browser()->extraSelections().isEmpty(), false);  // the words are marked
     QCOMPARE(help->search("NORSOK 1.15"), QStringList{"National annexes"});
     QVERIFY(help->search("nosuchwordatall").isEmpty());
+    // Words match at their start: "sign" is in "sign conventions", not in every "design".
+    QVERIFY(help->search("sign").contains("Units and sign conventions"));
+    QVERIFY(!help->search("sign").contains("Getting started"));
     QVERIFY(opened.isEmpty() && warnings.isEmpty());
   }
 
