@@ -1,6 +1,8 @@
 # Varnelt EC3 — the two commands of the quick start:
 #   make run    install what is missing, build, start the desktop program on the default project
 #   make test   install what is missing, build, run every test through CTest
+#   make install PREFIX=...   the programs, data files, help, desktop entry and file type under PREFIX
+#   make package              the Debian package (CPack), build/varnelt_<version>_<arch>.deb
 
 BUILD     ?= build
 ASAN      ?= build-asan
@@ -13,12 +15,14 @@ FUZZ_FLAGS ?= -max_total_time=$(FUZZ_TIME)
 FUZZ_TIMEOUT ?= 1
 FUZZ_TARGETS := project_reader settings_files events
 JOBS      ?= $(shell nproc)
+PREFIX    ?= /usr/local
 PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
-             libxlsxwriter-dev qt6-base-dev xvfb xauth locales
+             libxlsxwriter-dev qt6-base-dev libqt6svg6 xvfb xauth locales \
+             dpkg-dev desktop-file-utils shared-mime-info
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test test-comma test-sanitize fuzz format format-check bench clean
+.PHONY: all deps configure build run install package test test-comma test-sanitize fuzz format format-check bench clean
 
 all: build
 
@@ -60,6 +64,16 @@ run: configure
 
 test: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+# varnelt and varnelt-cli in PREFIX/bin, the data files and the help in PREFIX/share/varnelt, where
+# the programs look for them, the desktop entry, the file type of *.vnt and the icons.
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+# The Debian package; its dependencies are the libraries the binaries link to (dpkg-shlibdeps) and
+# Qt's SVG plugin. Install it with apt-get install ./$(BUILD)/varnelt_*.deb.
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 # The whole suite once more where the user's locale writes a decimal comma.
 test-comma: build

@@ -68,6 +68,7 @@ const char* kUsage =
     "  --decimal-comma      read and print numbers with a decimal comma (default: the locale's)\n"
     "  --decimal-point      read and print numbers with a decimal point\n"
     "  --data DIR           read the data files from DIR instead of the program's folder\n"
+    "                       (or ../share/varnelt beside it, where the program is installed)\n"
     "  --help, --version\n"
     "\n"
     "Exit status:\n"
@@ -236,7 +237,8 @@ int main(int argc, char** argv) {
   }
   if (outputs.empty() && !controls) outputs.push_back({Out::Project});
 
-  const std::string dataFolder = dataDir.empty() ? ProgramFolder(argv[0]) : dataDir;
+  // The data files beside the program, or in ../share/varnelt of an installed one.
+  const std::string dataFolder = dataDir.empty() ? vn::DataFolder(ProgramFolder(argv[0])) : dataDir;
   if (const auto problems = vn::cli::DataFileProblems(dataFolder); !problems.empty()) {
     for (const std::string& p : problems) std::cerr << "varnelt-cli: " << p << "\n";
     return 3;

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -26,6 +27,10 @@
 #include "forms/session.h"
 #include "graphics/member_figure.h"
 #include "graphics/support_symbols.h"
+
+#ifndef VARNELT_VERSION
+#define VARNELT_VERSION "unknown"
+#endif
 
 namespace vn::forms {
 
@@ -591,11 +596,31 @@ QLabel* ProgramTitle() {
 FormDialog* AboutDialog(Session* s, QWidget* owner) {
   auto* d = new FormDialog(s, "about", "About Varnelt - EC3", owner);
   auto* main = new QVBoxLayout(d);
-  main->addWidget(ProgramTitle());
+  auto* head = new QHBoxLayout;
+  // The program's icon, beside the data files; without Qt's SVG plugin the title stands alone.
+  const QIcon icon(QString::fromStdString(s->state().appPath) + "/varnelt.svg");
+  if (!icon.isNull() && !icon.pixmap(64, 64).isNull()) {
+    auto* picture = new QLabel;
+    picture->setObjectName("aboutIcon");
+    picture->setPixmap(icon.pixmap(64, 64));
+    head->addWidget(picture);
+    head->addSpacing(8);
+  }
+  auto* names = new QVBoxLayout;
+  names->addWidget(ProgramTitle());
+  auto* version = new QLabel("Version " VARNELT_VERSION);
+  version->setObjectName("aboutVersion");
+  names->addWidget(version);
+  head->addLayout(names);
+  head->addStretch(1);
+  main->addLayout(head);
+  main->addSpacing(4);
   main->addWidget(
       new QLabel("Design of one steel member, beam or column, to Eurocode 3:\n"
                  "EN 1993-1-1 for members and sections, EN 1993-1-5 for plated parts,\n"
                  "EN 1990 for the combinations of loads, with a choice of national annexes."));
+  main->addSpacing(4);
+  main->addWidget(Note(QString("Data files and help: %1").arg(QString::fromStdString(s->state().appPath))));
   main->addSpacing(6);
   main->addLayout(Foot({}, d->closeButton()));
   return d;

@@ -2,13 +2,15 @@
 //
 //   varnelt [PROJECT.vnt]
 //   varnelt --screenshot PATH [PROJECT.vnt]        the main form as a PNG picture, no display needed
-//   varnelt --screenshot-dialog NAME PATH [PROJECT] a dialog ("p01") as a PNG picture
+//   varnelt --screenshot-dialog NAME PATH [PROJECT] a dialog ("p01", "about") as a PNG picture; "help"
+//                                                  the help window, "help-search=WORDS" its search
 //   varnelt --screenshot-report KIND PATH [PROJECT] the printed report "section" or "stability"
 //   varnelt --pdf KIND PATH [PROJECT.vnt]          the report written as a PDF, no print dialog
 //   --do CONTROL[=TEXT]  fires an event before the picture is taken, as varnelt-cli does
 //                        (--do p10.pic1 shows the figures to scale)
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QPixmap>
 #include <QTimer>
 #include <clocale>
@@ -36,7 +38,7 @@ namespace {
 const char* kUsage =
     "usage: varnelt [PROJECT.vnt]  (a missing or damaged project file ends with exit status 3)\n"
     "       varnelt --screenshot PATH [PROJECT.vnt]\n"
-    "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]\n"
+    "       varnelt --screenshot-dialog NAME PATH [PROJECT.vnt]   (NAME help, help-search=WORDS: the help)\n"
     "       varnelt --screenshot-report section|stability PATH [PROJECT.vnt]\n"
     "       varnelt --pdf section|stability PATH [PROJECT.vnt]\n"
     "       --do CONTROL[=TEXT] before a screenshot fires an event, e.g. --do p10.pic1 (repeatable)\n"
@@ -125,7 +127,12 @@ int main(int argc, char** argv) {
   if (!shot) session.state().settings = std::make_shared<vn::forms::PlatformSettingsStore>();
   // The export of More Results: an .xlsx workbook, or CSV by the name.
   session.state().spreadsheet = vn::ExportDetailGrid;
-  session.start(QCoreApplication::applicationDirPath().toStdString(), vn::DetectDecimalComma());
+  // The data files and the help beside the program, or in ../share/varnelt of an installed one.
+  session.start(vn::DataFolder(QCoreApplication::applicationDirPath().toStdString()),
+                vn::DetectDecimalComma());
+  // The program's icon on its windows, and its desktop entry (varnelt.desktop) for the desktop.
+  QApplication::setWindowIcon(QIcon(QString::fromStdString(session.state().appPath) + "/varnelt.svg"));
+  QGuiApplication::setDesktopFileName("varnelt");
   vn::forms::MainForm form(&session);
 
   if (!projectPath.empty()) {

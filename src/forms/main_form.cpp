@@ -31,6 +31,7 @@
 #include "core/recalculate.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
+#include "forms/help_window.h"
 #include "forms/painter_canvas.h"
 #include "forms/picture_box.h"
 #include "forms/profiles.h"
@@ -175,7 +176,7 @@ bool FormHandles(const std::string& control) {
          control == "mnuprint11" || control == "mnupdf0" || control == "mnupdf1";
 }
 
-// The help page, copied beside the program into help/.
+// The help pages, in help/ beside the data files.
 QString HelpPagePath(const Session* s) {
   return QString::fromStdString(s->state().appPath) + QStringLiteral("/help/index.html");
 }
@@ -770,8 +771,7 @@ void MainForm::onMenu(const std::string& control) {
   }
   if (control == "mnuProfDB" && !Session::knows(control)) return;  // no action of its own
   if (control == "mnuhelpcont" || control == "mnuhelpsearch") {
-    // The help page has no search of its own: both entries open it.
-    OpenDocument(this, HelpPagePath(session_), QStringLiteral("Help not found: "));
+    showHelp(control == "mnuhelpsearch");
     return;
   }
   const bool print = control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" ||
@@ -933,7 +933,43 @@ void MainForm::syncDialogs() {
     if (d) d->close();
 }
 
+HelpWindow* MainForm::helpWindow() const { return help_.data(); }
+
+HelpWindow* MainForm::showHelp(bool search) {
+  // The program shows the pages itself: a desktop without a web browser still has its help.
+  const QString page = HelpPagePath(session_);
+  if (!help_ || help_->page() != page) {
+    if (!QFileInfo(page).isReadable()) {
+      boxes().warning(this, QStringLiteral("Help not found: ") + QDir::toNativeSeparators(page));
+      return nullptr;
+    }
+    delete help_.data();
+    help_ = new HelpWindow(this);
+    help_->setAttribute(Qt::WA_DeleteOnClose);
+    if (!help_->load(page)) {
+      boxes().warning(this, QStringLiteral("Can't open ") + QDir::toNativeSeparators(page));
+      delete help_.data();
+      return nullptr;
+    }
+  }
+  if (search)
+    help_->showSearch();
+  else
+    help_->showContents();
+  help_->show();
+  help_->raise();
+  help_->activateWindow();
+  return help_.data();
+}
+
 QWidget* MainForm::openDialog(const std::string& name) {
+  // The help window: "help" as Contents opens it, "help-search" or "help-search=WORDS" as Search.
+  if (name == "help") return showHelp(false);
+  if (name.rfind("help-search", 0) == 0) {
+    HelpWindow* h = showHelp(true);
+    if (h && name.size() > 12 && name[11] == '=') h->search(QString::fromStdString(name.substr(12)));
+    return h;
+  }
   if (QWidget* d = dialog(name)) {
     d->raise();
     return d;

@@ -18,6 +18,7 @@ namespace vn::forms {
 class Bindings;
 class Session;
 class PictureBox;
+class HelpWindow;
 
 // A text of the summary as rich text that breaks at its blanks only, each formula and row of numbers
 // whole and every "=" kept with the word before it.
@@ -46,6 +47,11 @@ class MainForm : public QMainWindow {
   // with whatever the State holds. nullptr if the form has no such dialog.
   QWidget* openDialog(const std::string& name);
 
+  // The help window as Contents (search false) or Search of the Help menu opens it; nullptr, after a
+  // warning naming the page, when the page is not there.
+  HelpWindow* showHelp(bool search);
+  HelpWindow* helpWindow() const;
+
   // Shows the State anew: caption, every bound widget, the menus, the summary, the dialogs.
   void refresh();
 
@@ -70,6 +76,7 @@ class MainForm : public QMainWindow {
   QMenu* profilesMenu_ = nullptr;
   std::map<std::string, QAction*> actions_;
   std::map<std::string, QPointer<QWidget>> dialogs_;
+  QPointer<HelpWindow> help_;
   QTextEdit* summary_ = nullptr;
   QString shownSummary_;
   QLabel* error_ = nullptr;

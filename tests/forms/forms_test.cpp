@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
@@ -19,9 +20,11 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
+#include <QTextBrowser>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTimer>
@@ -34,6 +37,7 @@
 #include "core/recalculate.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
+#include "forms/help_window.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
 #include "forms/picture_box.h"
@@ -809,18 +813,61 @@ class FormsTest : public QObject {
     QVERIFY2(page.open(QIODevice::ReadOnly), "bin/help/index.html was not copied beside the program");
     const QString html = QString::fromUtf8(page.readAll());
     QVERIFY(html.contains("<html"));
-    // The page stands alone: nothing is fetched from elsewhere.
-    QVERIFY(!html.contains("http://") && !html.contains("https://") && !html.contains("src="));
+    // The page stands alone: nothing is fetched from elsewhere, and every picture it shows lies
+    // beside it (drawn by the build).
+    QVERIFY(!html.contains("http://") && !html.contains("https://"));
+    const QRegularExpression src("src=\"([^\"]+)\"");
+    int pictures = 0;
+    for (auto it = src.globalMatch(html); it.hasNext(); ++pictures) {
+      const QString file = QStringLiteral(VARNELT_BIN_DIR "/help/") + it.next().captured(1);
+      QVERIFY2(QFileInfo::exists(file), qPrintable(file));
+      QVERIFY2(!QImage(file).isNull(), qPrintable("can't be shown: " + file));
+    }
+    QVERIFY(pictures >= 4);
   }
 
-  void helpEntriesAreEnabledAndOpenThePage() {
+  // Contents and Search open the pages in the program's own help window (no browser is needed);
+  // the contents list the topics the manual must have, and the search finds the topics that hold
+  // every word typed.
+  void helpEntriesOpenTheHelpWindow() {
     for (const char* name : {"mnuhelpcont", "mnuhelpsearch", "mnuTheory"})
       QVERIFY2(form->menuAction(name)->isEnabled(), name);
-    const QString page = QStringLiteral(VARNELT_BIN_DIR "/help/index.html");
     form->menuAction("mnuhelpcont")->trigger();
+    HelpWindow* help = form->helpWindow();
+    QVERIFY(help && help->isVisible());
+    QCOMPARE(help->page(), QStringLiteral(VARNELT_BIN_DIR "/help/index.html"));
+    const QStringList topics = help->headings();
+    for (const char* topic :
+         {"Units and sign conventions", "Main form inputs", "End supports and buckling lengths", "Loading",
+          "End forces mode", "Load combinations", "National annexes", "Lateral torsional buckling",
+          "The control lines", "Files", "The command line", "Departures"})
+      QVERIFY2(topics.contains(topic), topic);
+    QCOMPARE(help->findChild<QTabWidget*>()->currentIndex(), 0);
+
     form->menuAction("mnuhelpsearch")->trigger();
-    QCOMPARE(opened, (QStringList{page, page}));
-    QVERIFY(warnings.isEmpty());
+    QCOMPARE(form->helpWindow(), help);  // the same window, on its search
+    QCOMPARE(help->findChild<QTabWidget*>()->currentIndex(), 1);
+    const QStringList found = help->search("EN 1993 STRICT");
+    QVERIFY(found.contains("Setup dialog") && found.contains("Departures"));
+    QVERIFY(!found.contains("Loading"));
+    QCOMPARE(help->sectionShown(), found.front());
+    QCOMPARE(help->browser()->extraSelections().isEmpty(), false);  // the words are marked
+    QCOMPARE(help->search("NORSOK 1.15"), QStringList{"National annexes"});
+    QVERIFY(help->search("nosuchwordatall").isEmpty());
+    // Words match at their start: "sign" is in "sign conventions", not in every "design".
+    QVERIFY(help->search("sign").contains("Units and sign conventions"));
+    QVERIFY(!help->search("sign").contains("Getting started"));
+    QVERIFY(opened.isEmpty() && warnings.isEmpty());
+  }
+
+  void aboutShowsTheVersionAndTheIcon() {
+    QWidget* about = form->openDialog("about");
+    QVERIFY(about);
+    auto* version = about->findChild<QLabel*>("aboutVersion");
+    QVERIFY(version);
+    QCOMPARE(version->text(), QStringLiteral("Version " VARNELT_VERSION));
+    auto* icon = about->findChild<QLabel*>("aboutIcon");
+    QVERIFY2(icon, "the icon varnelt.svg beside the data files was not shown");
   }
 
   void missingHelpAndManualAreToldWithTheirPaths() {
