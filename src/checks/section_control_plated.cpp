@@ -15,6 +15,7 @@
 #include "checks/shear_resistance.h"
 #include "core/format.h"
 #include "core/state.h"
+#include "sections/hsq.h"
 
 namespace vn {
 
@@ -111,7 +112,11 @@ double MyRdSignedPlated(State& s, double cls, double MyEd) {
   return ToSingle(base - Div(R, p.gammaM0));
 }
 
-void SectionControlHSQ(State& s) { InPlaneSectionControl(s, TwoWebShear); }
+void SectionControlHSQ(State& s) {
+  // The load on the lower plate with the loads of this combination.
+  HsqFlangeLoad(s);
+  InPlaneSectionControl(s, TwoWebShear);
+}
 
 void SectionControlPlate(State& s) { InPlaneSectionControl(s, PlateShear); }
 

@@ -293,42 +293,59 @@ void HsqClasses(State& s) {
   MomentsOfModuli(s);
   c.MfyRd = c.MelyRd - 2 * Div(fyk, g0) * (hw * hw * tw / 6) / 1e6;
 
-  // 3. The load that the slabs put on one projection of the bottom plate: its moment, at the fixed
-  // lever of 60 mm, against the plate's plastic capacity across. The factored uniform loads of the
-  // member's last combination stand in qTotal.
-  const int type = p.ProfileType;
+  // 3. The load on the lower plate waits for the loads: the section control applies it with the
+  // qTotal of its own combination (HsqFlangeLoad), never with that of the run before.
   c.FlangeLoadFactor = 1;
-  if ((type == 24 || type == 25) && p.hsqKind == 0) {
-    const double q = s.analysis.qTotal;
-    const double f = type == 25 ? std::fabs(60 * q) : std::fabs(60 * q * p.p24.iload / 100);
-    const double cap = (1.75 * fyk / g0) * c.tf2 * c.tf2 / 6;
-    if (f > 0.2 * cap) {
-      if (1 - Div(f, cap) < 0) {
-        s.view.runMessage = " Flange overloaded! Program removes flangeloading ";
-        p.hsqKind = 1;
-      } else {
-        c.FlangeLoadFactor = ToSingle((Sqrt(1 - Div(f, cap)) + 1.1) * 0.5);
-      }
-    } else {
-      c.FlangeLoadFactor = 1;
-    }
-    if (c.FlangeLoadFactor > 1) c.FlangeLoadFactor = 1;
-  }
+  c.FlangeLoadRatio = 0;
 
   // 4. and 5.
   c.classMyPos = ClassHsqY(s, 10);
   c.classMyNeg = ClassHsqY(s, -10);
   SelectBySign(s, true);
+  c.MyRdPosUnloaded = c.MyRdPos;
+  c.MyRdNegUnloaded = c.MyRdNeg;
+  BucklingValues(s);
 
+  // 7. Two webs in shear.
+  WebShearCapacity(s, 2, true);
+}
+
+void HsqFlangeLoad(State& s) {
+  Section& c = s.section;
+  Project& p = s.project;
+  const int type = p.ProfileType;
+  if (type != 24 && type != 25) return;
+  // 6. (first) The resistances the classes chose, before any load on the plate.
+  c.MyRdPos = c.MyRdPosUnloaded;
+  c.MyRdNeg = c.MyRdNegUnloaded;
+  c.FlangeLoadFactor = 1;
+  c.FlangeLoadRatio = 0;
+  if (p.hsqKind == 0) {
+    // 3. The load that the slabs put on one projection of the bottom plate: its moment, at the fixed
+    // lever of 60 mm, against the plate's plastic capacity across. The factored uniform loads of the
+    // combination in hand stand in qTotal.
+    const double fyk = p.fyk, g0 = p.gammaM0;
+    const double q = s.analysis.qTotal;
+    const double f = type == 25 ? std::fabs(60 * q) : std::fabs(60 * q * p.p24.iload / 100);
+    const double cap = (1.75 * fyk / g0) * c.tf2 * c.tf2 / 6;
+    c.FlangeLoadRatio = Div(f, cap);
+    if (f > 0.2 * cap) {
+      if (1 - Div(f, cap) < 0) {
+        s.view.runMessage = " Flange overloaded! Program removes flangeloading ";
+        p.hsqKind = 1;
+        c.FlangeLoadRatio = 0;
+      } else {
+        c.FlangeLoadFactor = ToSingle((Sqrt(1 - Div(f, cap)) + 1.1) * 0.5);
+      }
+    }
+    if (c.FlangeLoadFactor > 1) c.FlangeLoadFactor = 1;
+  }
   // 6.
   if (p.hsqKind == 0) {
     c.MyRdPos = ToSingle(static_cast<double>(c.MyRdPos) * c.FlangeLoadFactor);
     c.MyRdNeg = ToSingle(static_cast<double>(c.MyRdNeg) * c.FlangeLoadFactor);
   }
   BucklingValues(s);
-
-  // 7. Two webs in shear.
-  WebShearCapacity(s, 2, true);
 }
 
 // ---------------------------------------------------------------------------------------------

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
@@ -144,6 +146,51 @@ TEST(PlatedControls, PlateBucklingBlockFollowsTheSignOfTheMoment) {
   Fire(s, "mnup24");
   EXPECT_EQ(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
   EXPECT_NE(SummaryText(s).find("SECTION CONTROL:"), std::string::npos);
+}
+
+// The load on the HSQ's lower plate belongs to the run that shows it: the same final state reached
+// by two orders of the events gives the same factor, resistances and ratios. HSQ 25 of the dialog
+// (300x300/430x6x25/15, c 15, S355: fy 355 for tmax 25, gammaM0 1.0), basic loads, q 120 kN/m:
+//   qTotal = 120; f = 60*120 = 7200; p = 1.75*355/1.0*15^2/6 = 23 296.875; f/p = 0.309054
+//   f > 0.2 p: factor = (sqrt(1 - 0.309054) + 1.1)/2 = (0.831231 + 1.1)/2 = 0.965616
+// Before, the order in which the load came last showed the factor of the run before (1.00).
+TEST(SectionControlHSQ, FlangeLoadOfTheRunItself) {
+  const std::vector<std::vector<std::pair<const char*, const char*>>> orders = {
+      {{"CboLoadComb", "5"}, {"Loading.iq(1)", "120"}},
+      {{"Loading.iq(1)", "120"}, {"Loading.ok", ""}, {"CboLoadComb", "5"}},
+      // Through the end forces, whose mode has no uniform load, and back.
+      {{"Loading.iq(1)", "120"},
+       {"CboLoadComb", "5"},
+       {"mnuendforces", ""},
+       {"mnuload1", ""},
+       {"Loading.ok", ""}},
+  };
+  std::vector<std::string> summaries;
+  for (const auto& order : orders) {
+    State s = StartedState();
+    Fire(s, "mnup25");
+    for (const auto& [control, text] : order) Fire(s, control, text);
+    ASSERT_EQ(s.project.AnalysisMode, 1);
+    const Section& c = s.section;
+    EXPECT_TRUE(Near(s.analysis.qTotal, 120, kHandCalc));
+    EXPECT_TRUE(Near(c.FlangeLoadFactor, 0.965616, kHandCalc));
+    EXPECT_TRUE(Near(c.MyRdPos, c.MyRdPosUnloaded * 0.965616, kHandCalc));
+    EXPECT_TRUE(Near(c.MyRdNeg, c.MyRdNegUnloaded * 0.965616, kHandCalc));
+    summaries.push_back(SummaryText(s));
+  }
+  EXPECT_EQ(summaries[0], summaries[1]);
+  EXPECT_EQ(summaries[0], summaries[2]);
+
+  // In the end forces mode no uniform load acts, whatever the load table held in load mode.
+  for (const bool loadedFirst : {false, true}) {
+    State s = StartedState();
+    Fire(s, "mnup25");
+    if (loadedFirst) Fire(s, "Loading.iq(1)", "120");
+    Fire(s, "mnuendforces");
+    EXPECT_EQ(s.analysis.qTotal, 0) << loadedFirst;
+    EXPECT_EQ(s.section.FlangeLoadFactor, 1) << loadedFirst;
+    EXPECT_EQ(s.section.MyRdPos, s.section.MyRdPosUnloaded) << loadedFirst;
+  }
 }
 
 }  // namespace
