@@ -2,6 +2,7 @@
 // (section control only) and the plates with a stiffener (section control and the LT line).
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -190,6 +191,60 @@ TEST(SectionControlHSQ, FlangeLoadOfTheRunItself) {
     EXPECT_EQ(s.analysis.qTotal, 0) << loadedFirst;
     EXPECT_EQ(s.section.FlangeLoadFactor, 1) << loadedFirst;
     EXPECT_EQ(s.section.MyRdPos, s.section.MyRdPosUnloaded) << loadedFirst;
+  }
+}
+
+// A lower plate overloaded by the slabs. HSQ 300x200/401x10x20/10, 70 % of q on one projection,
+// fyk 288, gammaM0 1 (hand values of tests/sections/plated_test.cpp): p = 1.75*288*10^2/6 = 8400
+// Nmm/mm = 8.40 kNm/m; q = 250 kN/m: f = 60*250*0.70 = 10 500 Nmm/mm = 10.50 kNm/m, f/p = 1.25.
+// As specified the load is dropped with the box and the girder keeps Wpl fy = 433.699 kNm.
+// Strict: the plate fails across, 10.50/8.40 = 1.25 red in group 2, the load stays on, and the
+// resistance takes (sqrt(0) + 1.1)/2 = 0.55: 433.699*0.55 = 238.534 kNm, 100/238.534 = 0.419227.
+// At q = 40.01 (f/p = 0.20005, factor 0.997200) strict shows the plate's line green.
+TEST(SectionControlHSQ, OverloadedFlangeFailsUnderTheStrictRules) {
+  struct Case {
+    bool strict;
+    double q;
+    Integer hsqKindAfter;
+    const char* message;
+    double MyRd, ir2;
+    const char* numbers2;
+    Integer colour2;
+  };
+  const Case cases[] = {
+      {false, 250, 1, " Flange overloaded! Program removes flangeloading ", 433.698854, 0, "", 0},
+      {true, 250, 0, "", 238.534370, 1.25, "10.50/8.40 = ", 4},
+      {true, 40.01, 0, "", 432.484333, 0.200050, "1.68/8.40 = ", 2},
+  };
+  for (const Case& k : cases) {
+    State s = SectionState();
+    s.project.ProfileType = 24;
+    s.project.p24 = {300, 200, 401, 10, 20, 10, 0, 70, 1};
+    s.project.steelGrade = 3;
+    s.project.fyk = 288;
+    s.project.hsqKind = 0;
+    s.project.strictRules = k.strict ? True : False;
+    s.analysis.IRlimit = 1;
+    ComputeSection(s);
+    s.analysis.qTotal = k.q;
+    SetPoints(s, 0, {{0.5f, 100, 0, 0, 0}});
+    SectionControlHSQ(s);
+    const Checks& c = s.checks;
+    EXPECT_EQ(s.project.hsqKind, k.hsqKindAfter) << k.q;
+    EXPECT_EQ(s.view.runMessage, k.message) << k.q;
+    EXPECT_TRUE(Near(s.section.MyRdPos, k.MyRd, kHandCalc)) << k.q;
+    EXPECT_TRUE(Near(c.IRsec[1], 100 / k.MyRd, kHandCalc)) << k.q;
+    if (!k.strict) {
+      EXPECT_TRUE(c.secText[2].Formula.empty());
+      EXPECT_TRUE(Near(s.analysis.IRsection, 100 / k.MyRd, kHandCalc));
+      continue;
+    }
+    EXPECT_EQ(c.secText[2].Formula, "IR = mEd/mRd (flange load) = ") << k.q;
+    EXPECT_EQ(c.secText[2].Numbers, k.numbers2) << k.q;
+    EXPECT_EQ(c.secText[2].Limit, " < 1.0 (Ch 6.2.5)") << k.q;
+    EXPECT_TRUE(Near(c.IRsec[2], k.ir2, kHandCalc)) << k.q;
+    EXPECT_EQ(c.colSec[2], k.colour2) << k.q;
+    EXPECT_TRUE(Near(s.analysis.IRsection, std::max(k.ir2, 100 / k.MyRd), kHandCalc)) << k.q;
   }
 }
 
