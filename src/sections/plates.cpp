@@ -13,6 +13,7 @@
 
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 #include "sections/hsq.h"
 #include "sections/rolled_i.h"
 #include "sections/welded_i.h"
@@ -332,6 +333,30 @@ double ClassPlateY(State& s, double M) {
   if (M > 0) {
     c.classWeb = ToSingle(WebClassInBending(dtw, alfa, psi, eps));
     c.classFlange = PlateOutstandClass(ToSingle(Div(c.c1, tf1)), eps);
+  } else if (StrictRules(s)) {
+    // The flat bar's free edge compressed, by EN 1993-1-1 Table 5.2 (outstand, tip in compression):
+    // alfa the compressed part of the bar from its tip in the plastic state (the whole bar while the
+    // plastic axis lies in the plate), psi the stress at the root over that at the tip, and k-sigma
+    // of EN 1993-1-5 Table 4.2 for the free edge most compressed. The program's own method takes
+    // 10, 11 and 23 epsilon, the tensioned part for alfa and the inverse stress ratio, which puts a
+    // slender bar in class 3.
+    const double hw = c.hw;
+    double alfaTip = Div(h - c.zpl, hw);
+    if (alfaTip > 1) alfaTip = 1;
+    const double edge = h - ezb;  // from the tip to the elastic axis
+    const double psiTip = Div(-(hw - edge), edge);
+    const double ksigma = 0.57 - 0.21 * psiTip + 0.07 * psiTip * psiTip;
+    if (alfaTip <= 0)
+      c.classWeb = 1;  // no part of the bar is compressed in the plastic state
+    else if (dtw <= Div(9 * eps, alfaTip))
+      c.classWeb = 1;
+    else if (dtw <= Div(10 * eps, alfaTip))
+      c.classWeb = 2;
+    else if (dtw <= 21 * eps * Sqrt(ksigma))
+      c.classWeb = 3;
+    else
+      c.classWeb = 4;
+    c.classFlange = 1;
   } else {
     // The flat bar's free edge compressed: the web is an outstand.
     if (dtw <= Div(10 * eps, alfa))
