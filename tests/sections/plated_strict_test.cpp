@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/pipeline.h"
+#include "sections/hsq.h"
 #include "sections/section_fixture.h"
 
 namespace vn::test {
@@ -73,6 +74,60 @@ TEST(StrictPlateFlat, StockyBarStaysClassThree) {
   base.project.p51 = {100, 600, 10, 10};
   EXPECT_EQ(Strict(base, true).section.classMyNeg, 3);
   EXPECT_EQ(Strict(base, false).section.classMyNeg, 3);
+}
+
+// HSQ 25, h 450, b1 360, b2 560, c 20, tw 8, tf1 12, tf2 14, hogging (the bottom plate compressed).
+//   A = 4320 + 16*424 + 7840 = 18 944; centroid from below 3 506 144/18 944 = 185.0794
+//   Iy = 651 409 523 mm4; Wel at the top 2 458 885.8 (governs), at the bottom 3 519 622
+//   Plastic axis: 9472 - 7840 = 1632 in the webs, 1632/16 = 102: 116 (stepped 116.1);
+//   Wpl,y = 7840*109.1 + 16*102.1^2/2 + 16*321.9^2/2 + 4320*327.9 = 3 184 209; 355 Wpl = 1130.39 kNm
+// As specified only the plate between the webs is classified: 360/14 = 25.7 < 33 epsilon, class 1.
+// EN 1993-1-1 Table 5.2, outstand flange in compression: the wider projection to the weld (r = 4)
+// 560 - 360 - 20 - 16 - 4 = 160, c/t = 11.4286 > 14 epsilon = 11.3906: class 4.
+// EN 1993-1-5 4.4, Table 4.2, psi = 1, k = 0.43: lamdaP = 11.4286/(28.4*0.813616*0.655744)
+//   = 0.754257, rho = (0.754257 - 0.188)/0.754257^2 = 0.995347: a strip 0.7444 x 14 at the tip;
+//   the narrow one (20 - 4)/14 = 1.14 and the plate between the webs (lamdaP 0.556) stay whole; the
+//   web (psi = -1.536, k = 38.47, lamdaP 0.37) too.
+//   Aeff = 18 933.6, centroid 185.1774 from below, Ieff = 651 078 674
+//   Weff at the top = Ieff/264.8226 = 2 458 546.6; My,Rd- = 872.784 kNm (as against 1130.4).
+TEST(StrictHsq, OutstandsOfTheLowerPlateClassifiedAndReduced) {
+  State base = S355();
+  base.project.ProfileType = 25;
+  base.project.p25 = {450, 360, 560, 8, 12, 14, 20, 1};
+  base.project.hsqKind = 1;
+  const State spec = Strict(base, false);
+  EXPECT_EQ(spec.section.classMyNeg, 1);
+  EXPECT_TRUE(Near(spec.section.MyRdNeg, 1130.39, kChain));
+  const State strict = Strict(base, true);
+  EXPECT_TRUE(Near(strict.section.Iy, 651409523, kHand));
+  EXPECT_EQ(strict.section.classMyNeg, 4);
+  EXPECT_TRUE(Near(strict.section.WeffyTop2, 2458546.6, kChain));
+  EXPECT_TRUE(Near(strict.section.WeffyBot2, 3515972.4, kChain));
+  EXPECT_TRUE(Near(strict.section.MyRdNeg, 872.78405, kChain));
+  // Sagging: the top plate lies between the webs and has no outstand; the same under both rules.
+  EXPECT_EQ(strict.section.classMyPos, spec.section.classMyPos);
+  EXPECT_EQ(strict.section.MyRdPos, spec.section.MyRdPos);
+}
+
+// Box 27 600x400/600x10x12/12 with the upper flange's overhang c = 100 beyond each web (r = 4).
+// As specified only the plate between the webs, 400 - 2*(10 + 100) = 180, 180/12 = 15 < 33 epsilon:
+// class 1 either way. EN 1993-1-1 Table 5.2, outstand flanges: sagging, the upper overhang
+// 100 - 4 = 96, 96/12 = 8.0 between 9 epsilon = 7.32 and 10 epsilon = 8.14: class 2; hogging, the
+// lower flange projects by (600 - 400)/2 + 100 - 4 = 196, 196/12 = 16.3 > 14 epsilon = 11.39: class 4.
+TEST(StrictBox, OutstandsOfBothFlanges) {
+  State base = S355();
+  base.project.ProfileType = 27;
+  base.project.p27 = {600, 400, 600, 10, 12, 12, 100};
+  State spec = Strict(base, false);
+  State strict = Strict(base, true);
+  for (const double M : {10.0, -10.0}) {
+    ClassBoxY(spec, M);
+    EXPECT_EQ(spec.section.classFlange, 1) << M;
+    ClassBoxY(strict, M);
+    EXPECT_EQ(strict.section.classFlange, M > 0 ? 2 : 4) << M;
+  }
+  EXPECT_EQ(strict.section.classMyNeg, 4);
+  EXPECT_LT(strict.section.MyRdNeg, spec.section.MyRdNeg);
 }
 
 }  // namespace
