@@ -221,6 +221,11 @@ void SelectBySign(State& s, bool upgrade) {
 void MomentsOfModuli(State& s) {
   Section& c = s.section;
   const Project& p = s.project;
+  // A plate or stiffener so slender that nothing of it is left (or an effective centroid beyond
+  // the section's edge) leaves no modulus to divide by: the run ends in the calculation message,
+  // never with a negative or zero resistance on the screen.
+  for (const Single W : {c.WeffyTop, c.WeffyBot, c.WeffyTop2, c.WeffyBot2})
+    if (!(W > 0) || !std::isfinite(W)) Fault("effective modulus not positive");
   auto moment = [&](double W) { return Div(Div(W * p.fyk, p.gammaM0), 1e6); };
   c.MelyRd = moment(c.Wely);
   c.MplyRd = moment(c.Wply);
