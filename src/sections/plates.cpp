@@ -135,10 +135,12 @@ std::string PlateName(const State& s, double b1, double tf1) {
 }
 
 // The plate compressed: its two outstands reduced, the web in tension down to the axis.
-void PlateCompressedPass(State& s, double rho1) {
+// `webReduced`: the compressed part of the stiffener's web reduced as an internal element
+// (EN 1993-1-5 4.4, Table 4.1), as the strict rules take it for a stiffener with a flange.
+void PlateCompressedPass(State& s, double rho1, bool webReduced = false) {
   Section& c = s.section;
   Single ce = 0;
-  const double I = EffectivePass(s, {c.ez, c.c1, c.tf1, rho1, 2, 1, false}, ce);
+  const double I = EffectivePass(s, {c.ez, c.c1, c.tf1, rho1, 2, 1, webReduced}, ce);
   c.WeffyTop = ToSingle(Div(I, ce));
   c.WeffyBot = ToSingle(Div(I, static_cast<double>(c.h) - ce));
 }
@@ -310,7 +312,10 @@ void StiffenedEffective(State& s) {
   const int type = p.ProfileType;
 
   const double rho = OutstandRho(c.c1, c.tf1, eps, 0.43, p.noFlangeBuckling);
-  PlateCompressedPass(s, rho);
+  // The plate compressed: the program's own method takes the web as in tension down to the axis;
+  // a deep stiffener has much of its web in compression above the axis, which the strict rules
+  // reduce when it buckles.
+  PlateCompressedPass(s, rho, StrictRules(s));
 
   // The stiffener's flange compressed: each outstand reduced, the web internal.
   const double rho2 = OutstandRho(c.c2, c.tf2, eps, 0.43, p.noFlangeBuckling);

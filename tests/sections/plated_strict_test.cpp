@@ -133,6 +133,33 @@ TEST(StrictBox, OutstandsOfBothFlanges) {
   EXPECT_LT(strict.section.MyRdNeg, spec.section.MyRdNeg);
 }
 
+// Plate 250x15 with the T 900x400x8x25 (56), sagging: the plate compressed, the web above the axis
+// too. From the plate's face: A = 3750 + 7000 + 10 000 = 20 750; centroid 588.9458
+//   Iy = 2 828 487 356 mm4; Wel at the face 4 802 627.7; 355 Wel = 1704.93 kNm
+// The plate's outstands (250 - 8)/2 = 121, 121/15 = 8.07: lamdaP 0.532, whole. The web d = 875,
+// d/tw = 109.4 is class 4; as specified the web stays whole (in tension down to the axis):
+// My,Rd+ = 1704.93. EN 1993-1-5 4.4, Table 4.1 (internal element), the gross stresses:
+//   bc = 588.9458 - 15 = 573.9458; psi = -(875 - 573.9458)/573.9458 = -0.524534
+//   k = 7.81 - 6.29 psi + 9.78 psi^2 = 13.800152; lamdaP = 109.375/(28.4*0.813616*3.714856) = 1.274201
+//   rho = (1.274201 - 0.055*(3 - 0.524534))/1.274201^2 = 0.700948; beff = 402.306, a hole of 171.640
+//   between 0.4 beff (from the plate) and 0.6 beff; its centre 15 + 160.922 + 85.820 = 261.742
+//   Aeff = 19 376.88, centroid 612.1327, Ieff = 2 667 689 661
+//   Weff at the face = Ieff/612.1327 = 4 358 025.4; My,Rd+ = 1547.099 kNm.
+TEST(StrictPlateTee, CompressedWebOfTheStiffenerReduced) {
+  State base = S355();
+  base.project.ProfileType = 56;
+  base.project.p56 = {900, 250, 400, 8, 15, 25};
+  const State spec = Strict(base, false);
+  EXPECT_EQ(spec.section.classMyPos, 4);
+  EXPECT_TRUE(Near(spec.section.MyRdPos, 1704.9328, kChain));
+  const State strict = Strict(base, true);
+  EXPECT_EQ(strict.section.classMyPos, 4);
+  EXPECT_TRUE(Near(strict.section.WeffyTop, 4358025.4, kChain));
+  EXPECT_TRUE(Near(strict.section.WeffyBot, 8808112.7, kChain));
+  EXPECT_TRUE(Near(strict.section.MyRdPos, 1547.0990, kChain));
+  EXPECT_EQ(strict.section.MyRdNeg, spec.section.MyRdNeg);
+}
+
 // Bad input: a plate or stiffener so slender that its effective width is gone leaves no modulus.
 // The shared step of the plated families refuses a modulus that is zero or below (the run ends in
 // the calculation message); a very slender plate whose effective part is tiny but there gives
