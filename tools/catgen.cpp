@@ -699,11 +699,14 @@ void DeriveColdFormedSquare(double b, double t) {
 
 // Bulb flat of EN 10067 in the outline the program's figure uses: the flat t x h, on one side a
 // bulb of projection c whose end is a half round of radius r at the top edge and whose shoulder
-// falls at 30 degrees back to the web face.
+// falls at 30 degrees back to the web face. Only the sizes the published table lacks (HP 60 to 100)
+// are computed; the others carry c, r and A of EN 10067 and are left as they stand.
 void DeriveBulbFlats(const std::string& src) {
   Table t = ReadCsv(JoinPath(src, "hp.csv"));
-  std::cout << "# hp: designation, A (mm2)\n";
+  std::cout << "# hp: designation, A (mm2), the sizes computed from the outline\n";
+  const int source = t.Col("source");
   for (const Row& r : t.rows) {
+    if (r.at(static_cast<size_t>(source)).rfind("EN 10067, published", 0) == 0) continue;
     const double h = Cell(t, r, "h_mm"), tw = Cell(t, r, "t_mm"), c = Cell(t, r, "c_mm"),
                  rr = Cell(t, r, "r_mm");
     const double bulb =

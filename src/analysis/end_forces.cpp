@@ -67,6 +67,9 @@ void EndForcesOnGrid(State& s) {
     Inflections(an.MyGrid, an.InflectionY1, an.InflectionY2);
 
   an.NEd = p.NEndForce;
+  // No uniform load acts in this mode: the load on the HSQ's lower plate is none, rather than the
+  // loads of the last run in load mode.
+  an.qTotal = 0;
 }
 
 }  // namespace

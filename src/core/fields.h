@@ -384,6 +384,9 @@ void VisitSection(V& v, S& c) {
   VN_F(c, WplyTop);
   VN_F(c, WplyBot);
   VN_F(c, FlangeLoadFactor);
+  VN_F(c, MyRdPosUnloaded);
+  VN_F(c, MyRdNegUnloaded);
+  VN_F(c, FlangeLoadRatio);
   v.Array("Outline", c.Outline, [&](auto& pt) {
     VN_F(pt, x);
     VN_F(pt, y);

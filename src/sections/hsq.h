@@ -15,8 +15,13 @@ void HsqUnsymProperties(State& s);
 // Effective moduli about y, the top plate compressed, then the bottom plate.
 void HsqEffective(State& s);
 void HsqEffectiveUnsym(State& s);
-// Resistances, the load on the lower plate, the class of each sign and its moment resistance.
+// Resistances, the class of each sign and its moment resistance before the load on the lower plate.
 void HsqClasses(State& s);
+// The load of the slabs on one projection of the lower plate (24, 25): the factor on the moment
+// resistances of both signs from the factored uniform loads qTotal of the combination in hand.
+// The section control calls it once its combination is formed, so that a run shows the factor of
+// its own loads; it starts each time from the resistances HsqClasses chose.
+void HsqFlangeLoad(State& s);
 
 // Class of the HSQ about y under the signed moment M (kNm): 1 to 4, or 23 for a class 3 web that
 // the dialog's option lets count as class 2. Sets classWeb and classFlange.

@@ -13,6 +13,7 @@
 
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 #include "sections/hsq.h"
 #include "sections/rolled_i.h"
 #include "sections/welded_i.h"
@@ -134,10 +135,12 @@ std::string PlateName(const State& s, double b1, double tf1) {
 }
 
 // The plate compressed: its two outstands reduced, the web in tension down to the axis.
-void PlateCompressedPass(State& s, double rho1) {
+// `webReduced`: the compressed part of the stiffener's web reduced as an internal element
+// (EN 1993-1-5 4.4, Table 4.1), as the strict rules take it for a stiffener with a flange.
+void PlateCompressedPass(State& s, double rho1, bool webReduced = false) {
   Section& c = s.section;
   Single ce = 0;
-  const double I = EffectivePass(s, {c.ez, c.c1, c.tf1, rho1, 2, 1, false}, ce);
+  const double I = EffectivePass(s, {c.ez, c.c1, c.tf1, rho1, 2, 1, webReduced}, ce);
   c.WeffyTop = ToSingle(Div(I, ce));
   c.WeffyBot = ToSingle(Div(I, static_cast<double>(c.h) - ce));
 }
@@ -309,7 +312,10 @@ void StiffenedEffective(State& s) {
   const int type = p.ProfileType;
 
   const double rho = OutstandRho(c.c1, c.tf1, eps, 0.43, p.noFlangeBuckling);
-  PlateCompressedPass(s, rho);
+  // The plate compressed: the program's own method takes the web as in tension down to the axis;
+  // a deep stiffener has much of its web in compression above the axis, which the strict rules
+  // reduce when it buckles.
+  PlateCompressedPass(s, rho, StrictRules(s));
 
   // The stiffener's flange compressed: each outstand reduced, the web internal.
   const double rho2 = OutstandRho(c.c2, c.tf2, eps, 0.43, p.noFlangeBuckling);
@@ -332,6 +338,30 @@ double ClassPlateY(State& s, double M) {
   if (M > 0) {
     c.classWeb = ToSingle(WebClassInBending(dtw, alfa, psi, eps));
     c.classFlange = PlateOutstandClass(ToSingle(Div(c.c1, tf1)), eps);
+  } else if (StrictRules(s)) {
+    // The flat bar's free edge compressed, by EN 1993-1-1 Table 5.2 (outstand, tip in compression):
+    // alfa the compressed part of the bar from its tip in the plastic state (the whole bar while the
+    // plastic axis lies in the plate), psi the stress at the root over that at the tip, and k-sigma
+    // of EN 1993-1-5 Table 4.2 for the free edge most compressed. The program's own method takes
+    // 10, 11 and 23 epsilon, the tensioned part for alfa and the inverse stress ratio, which puts a
+    // slender bar in class 3.
+    const double hw = c.hw;
+    double alfaTip = Div(h - c.zpl, hw);
+    if (alfaTip > 1) alfaTip = 1;
+    const double edge = h - ezb;  // from the tip to the elastic axis
+    const double psiTip = Div(-(hw - edge), edge);
+    const double ksigma = 0.57 - 0.21 * psiTip + 0.07 * psiTip * psiTip;
+    if (alfaTip <= 0)
+      c.classWeb = 1;  // no part of the bar is compressed in the plastic state
+    else if (dtw <= Div(9 * eps, alfaTip))
+      c.classWeb = 1;
+    else if (dtw <= Div(10 * eps, alfaTip))
+      c.classWeb = 2;
+    else if (dtw <= 21 * eps * Sqrt(ksigma))
+      c.classWeb = 3;
+    else
+      c.classWeb = 4;
+    c.classFlange = 1;
   } else {
     // The flat bar's free edge compressed: the web is an outstand.
     if (dtw <= Div(10 * eps, alfa))

@@ -80,6 +80,10 @@ struct Section {
   // web, and the share of the moment resistance that the load on the lower plate leaves.
   Single WplyTop = 0, WplyBot = 0;
   Single FlangeLoadFactor = 0;
+  // The resistances of each sign before the load on the lower plate, which the section control
+  // applies with the loads of its own combination; and that load's ratio f / p (0 where none).
+  Single MyRdPosUnloaded = 0, MyRdNegUnloaded = 0;
+  double FlangeLoadRatio = 0;  // (d)
   // Angles: the three corner points (1 and 3 the leg ends, 2 the heel), their distances from the
   // principal axes, the moduli and resistances about u and v at each point (index 0 unused).
   std::array<Single, 4> uPt{}, vPt{};  // mm, from the v axis and from the u axis

@@ -2,7 +2,10 @@
 // (section control only) and the plates with a stiffener (section control and the LT line).
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "checks/control_framework.h"
 #include "checks/control_routines.h"
@@ -144,6 +147,105 @@ TEST(PlatedControls, PlateBucklingBlockFollowsTheSignOfTheMoment) {
   Fire(s, "mnup24");
   EXPECT_EQ(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
   EXPECT_NE(SummaryText(s).find("SECTION CONTROL:"), std::string::npos);
+}
+
+// The load on the HSQ's lower plate belongs to the run that shows it: the same final state reached
+// by two orders of the events gives the same factor, resistances and ratios. HSQ 25 of the dialog
+// (300x300/430x6x25/15, c 15, S355: fy 355 for tmax 25, gammaM0 1.0), basic loads, q 120 kN/m:
+//   qTotal = 120; f = 60*120 = 7200; p = 1.75*355/1.0*15^2/6 = 23 296.875; f/p = 0.309054
+//   f > 0.2 p: factor = (sqrt(1 - 0.309054) + 1.1)/2 = (0.831231 + 1.1)/2 = 0.965616
+// Before, the order in which the load came last showed the factor of the run before (1.00).
+TEST(SectionControlHSQ, FlangeLoadOfTheRunItself) {
+  const std::vector<std::vector<std::pair<const char*, const char*>>> orders = {
+      {{"CboLoadComb", "5"}, {"Loading.iq(1)", "120"}},
+      {{"Loading.iq(1)", "120"}, {"Loading.ok", ""}, {"CboLoadComb", "5"}},
+      // Through the end forces, whose mode has no uniform load, and back.
+      {{"Loading.iq(1)", "120"},
+       {"CboLoadComb", "5"},
+       {"mnuendforces", ""},
+       {"mnuload1", ""},
+       {"Loading.ok", ""}},
+  };
+  std::vector<std::string> summaries;
+  for (const auto& order : orders) {
+    State s = StartedState();
+    Fire(s, "mnup25");
+    for (const auto& [control, text] : order) Fire(s, control, text);
+    ASSERT_EQ(s.project.AnalysisMode, 1);
+    const Section& c = s.section;
+    EXPECT_TRUE(Near(s.analysis.qTotal, 120, kHandCalc));
+    EXPECT_TRUE(Near(c.FlangeLoadFactor, 0.965616, kHandCalc));
+    EXPECT_TRUE(Near(c.MyRdPos, c.MyRdPosUnloaded * 0.965616, kHandCalc));
+    EXPECT_TRUE(Near(c.MyRdNeg, c.MyRdNegUnloaded * 0.965616, kHandCalc));
+    summaries.push_back(SummaryText(s));
+  }
+  EXPECT_EQ(summaries[0], summaries[1]);
+  EXPECT_EQ(summaries[0], summaries[2]);
+
+  // In the end forces mode no uniform load acts, whatever the load table held in load mode.
+  for (const bool loadedFirst : {false, true}) {
+    State s = StartedState();
+    Fire(s, "mnup25");
+    if (loadedFirst) Fire(s, "Loading.iq(1)", "120");
+    Fire(s, "mnuendforces");
+    EXPECT_EQ(s.analysis.qTotal, 0) << loadedFirst;
+    EXPECT_EQ(s.section.FlangeLoadFactor, 1) << loadedFirst;
+    EXPECT_EQ(s.section.MyRdPos, s.section.MyRdPosUnloaded) << loadedFirst;
+  }
+}
+
+// A lower plate overloaded by the slabs. HSQ 300x200/401x10x20/10, 70 % of q on one projection,
+// fyk 288, gammaM0 1 (hand values of tests/sections/plated_test.cpp): p = 1.75*288*10^2/6 = 8400
+// Nmm/mm = 8.40 kNm/m; q = 250 kN/m: f = 60*250*0.70 = 10 500 Nmm/mm = 10.50 kNm/m, f/p = 1.25.
+// As specified the load is dropped with the box and the girder keeps Wpl fy = 433.699 kNm.
+// Strict: the plate fails across, 10.50/8.40 = 1.25 red in group 2, the load stays on, and the
+// resistance takes (sqrt(0) + 1.1)/2 = 0.55: 433.699*0.55 = 238.534 kNm, 100/238.534 = 0.419227.
+// At q = 40.01 (f/p = 0.20005, factor 0.997200) strict shows the plate's line green.
+TEST(SectionControlHSQ, OverloadedFlangeFailsUnderTheStrictRules) {
+  struct Case {
+    bool strict;
+    double q;
+    Integer hsqKindAfter;
+    const char* message;
+    double MyRd, ir2;
+    const char* numbers2;
+    Integer colour2;
+  };
+  const Case cases[] = {
+      {false, 250, 1, " Flange overloaded! Program removes flangeloading ", 433.698854, 0, "", 0},
+      {true, 250, 0, "", 238.534370, 1.25, "10.50/8.40 = ", 4},
+      {true, 40.01, 0, "", 432.484333, 0.200050, "1.68/8.40 = ", 2},
+  };
+  for (const Case& k : cases) {
+    State s = SectionState();
+    s.project.ProfileType = 24;
+    s.project.p24 = {300, 200, 401, 10, 20, 10, 0, 70, 1};
+    s.project.steelGrade = 3;
+    s.project.fyk = 288;
+    s.project.hsqKind = 0;
+    s.project.strictRules = k.strict ? True : False;
+    s.analysis.IRlimit = 1;
+    ComputeSection(s);
+    s.analysis.qTotal = k.q;
+    SetPoints(s, 0, {{0.5f, 100, 0, 0, 0}});
+    SectionControlHSQ(s);
+    const Checks& c = s.checks;
+    EXPECT_EQ(s.project.hsqKind, k.hsqKindAfter) << k.q;
+    EXPECT_EQ(s.view.runMessage, k.message) << k.q;
+    EXPECT_TRUE(Near(s.section.MyRdPos, k.MyRd, kHandCalc)) << k.q;
+    EXPECT_TRUE(Near(c.IRsec[1], 100 / k.MyRd, kHandCalc)) << k.q;
+    if (!k.strict) {
+      EXPECT_TRUE(c.secText[2].Formula.empty());
+      EXPECT_TRUE(Near(s.analysis.IRsection, 100 / k.MyRd, kHandCalc));
+      continue;
+    }
+    EXPECT_EQ(c.secText[2].Formula, "IR = mEd/mRd (flange load) = ") << k.q;
+    EXPECT_EQ(c.secText[2].Numbers, k.numbers2) << k.q;
+    EXPECT_EQ(c.secText[2].Limit, " < 1.0 (Ch 6.2.5)") << k.q;
+    EXPECT_TRUE(Near(c.IRsec[2], k.ir2, kHandCalc)) << k.q;
+    EXPECT_EQ(c.colSec[2], k.colour2) << k.q;
+    EXPECT_TRUE(Near(s.analysis.IRsection, std::max(k.ir2, 100 / k.MyRd), kHandCalc)) << k.q;
+  }
 }
 
 }  // namespace

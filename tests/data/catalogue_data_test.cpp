@@ -448,17 +448,37 @@ TEST(ComputedValues, ColdFormedSmallSizesFollowEn10219Formulas) {
   EXPECT_TRUE(Near(Value(t, 4, 4, 100), 240.8, Tolerance{4e-3, "3 significant digits"}));
 }
 
-TEST(ComputedValues, BulbFlatAreaFollowsItsOutline) {
-  // HP 200x10 (row 20): c = 28, r = 8. A = t h + 2 r c - 2 r^2 (1 - pi/4) + (c - r)^2 tan(30 deg) / 2
-  // = 2000 + 448 - 27.47 + 115.47 = 2536.0 mm2 = 25.36 cm2.
+TEST(ComputedValues, BulbFlatAreaFollowsItsOutlineWhereNotPublished) {
+  // HP 100x7 (row 5), a size the published EN 10067 table lacks: c = 15, r = 5.
+  // A = t h + 2 r c - 2 r^2 (1 - pi/4) + (c - r)^2 tan(30 deg) / 2
+  //   = 700 + 150 - 10.73 + 28.87 = 868.14 mm2 -> 868.1.
   const Catalogue t = Load(catHp);
-  EXPECT_FLOAT_EQ(t.at(20, 1), 200.0f);
-  EXPECT_FLOAT_EQ(t.at(20, 2), 10.0f);
-  EXPECT_FLOAT_EQ(t.at(20, 3), 28.0f);
-  EXPECT_FLOAT_EQ(t.at(20, 4), 8.0f);
-  EXPECT_TRUE(Near(Value(t, 20, 5, 100), 2536.0, test::kSingle));
-  // HP 430x17 (row 46): c = 62.5, r = 19.5: 7310 + 2437.5 - 163.21 + 533.76 = 10118 -> 10120.
-  EXPECT_TRUE(Near(Value(t, 46, 5, 100), 10118, Tolerance{5e-4, "4 significant digits"}));
+  EXPECT_FLOAT_EQ(t.at(5, 1), 100.0f);
+  EXPECT_FLOAT_EQ(t.at(5, 3), 15.0f);
+  EXPECT_FLOAT_EQ(t.at(5, 4), 5.0f);
+  EXPECT_TRUE(Near(Value(t, 5, 5, 100), 868.14, Tolerance{5e-4, "4 significant digits"}));
+}
+
+// The sizes HP 120 to 430 carry c, r and A of the published EN 10067 table (A in cm2 there).
+TEST(PublishedValues, BulbFlatsOfTheEn10067Table) {
+  struct Row {
+    int row;
+    float h, t, c, r, A;
+  };
+  const Row rows[] = {
+      {7, 120, 6, 17, 5, 931},             // HP 120x6, the first published size
+      {11, 140, 8, 19, 5.5f, 1380},        // the 140 series has r 5.5
+      {20, 200, 10, 28, 8, 2560},          // the outline gave 2536
+      {46, 430, 17, 62.5f, 19.5f, 10300},  // the last row; the outline gave 10120
+  };
+  const Catalogue t = Load(catHp);
+  for (const Row& k : rows) {
+    EXPECT_FLOAT_EQ(t.at(k.row, 1), k.h) << k.row;
+    EXPECT_FLOAT_EQ(t.at(k.row, 2), k.t) << k.row;
+    EXPECT_FLOAT_EQ(t.at(k.row, 3), k.c) << k.row;
+    EXPECT_FLOAT_EQ(t.at(k.row, 4), k.r) << k.row;
+    EXPECT_TRUE(Near(Value(t, k.row, 5, 100), k.A, test::kSingle)) << k.row;
+  }
 }
 
 }  // namespace
