@@ -210,8 +210,9 @@ class CsvReader {
       }
     }
     const int grade = m.grade >= 0 ? m.grade : started_.project.steelGrade;
-    out.grade = grade >= 0 && grade <= started_.steel.gradeLast ? started_.steel.rows[static_cast<size_t>(grade)].name
-                                                                : std::string();
+    out.grade = grade >= 0 && grade <= started_.steel.gradeLast
+                    ? started_.steel.rows[static_cast<size_t>(grade)].name
+                    : std::string();
     double v = 0;
     if (!number(colL, &v)) return out;
     if (v < 0.05) {
@@ -256,7 +257,8 @@ class CsvReader {
       return out;
     }
     if (m.endForces && m.support != 0) {
-      out.error = "support " + at(colSupport) + " with end forces: a member given by its end forces has supports 0";
+      out.error =
+          "support " + at(colSupport) + " with end forces: a member given by its end forces has supports 0";
       return out;
     }
     return out;
@@ -365,7 +367,8 @@ std::string SectionLabel(const State& s) {
 
 std::string GradeLabel(const State& s) {
   const Project& p = s.project;
-  if (p.steelGrade >= 0 && p.steelGrade < s.steel.gradeLast) return s.steel.rows[static_cast<size_t>(p.steelGrade)].name;
+  if (p.steelGrade >= 0 && p.steelGrade < s.steel.gradeLast)
+    return s.steel.rows[static_cast<size_t>(p.steelGrade)].name;
   return "fyk " + FormatNumber(p.fyk, "#0", false);
 }
 
@@ -539,8 +542,8 @@ std::vector<std::vector<std::string>> BatchTable(const BatchResult& r, bool deci
   for (const BatchEntry& e : r.entries) {
     const bool bad = !e.error.empty();
     const bool ran = !bad && e.outcome.ran;
-    rows.push_back({e.source, e.line > 0 ? std::to_string(e.line) : std::string(), e.member, e.section, e.grade,
-                    e.L > 0 ? FormatNumber(e.L, "#0.000", decimalComma) : std::string(),
+    rows.push_back({e.source, e.line > 0 ? std::to_string(e.line) : std::string(), e.member, e.section,
+                    e.grade, e.L > 0 ? FormatNumber(e.L, "#0.000", decimalComma) : std::string(),
                     ran ? FormatNumber(e.outcome.ratio, "0.00", decimalComma) : std::string(),
                     bad ? "BAD INPUT" : VerdictText(e.outcome), bad ? e.error : DescribeControl(e.outcome)});
   }

@@ -1,9 +1,13 @@
 #include "members/lightest.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
+#include <charconv>
 #include <mutex>
 
+#include "core/format.h"
+#include "core/json.h"
 #include "core/state.h"
 #include "core/types.h"
 #include "members/parallel.h"
@@ -25,12 +29,12 @@ std::string Key(const std::string& text) {
 
 const std::vector<CatalogueFamily>& CatalogueFamilies() {
   static const std::vector<CatalogueFamily> kFamilies = {
-      {"HEA", 1, 0, catHea},          {"HEB", 2, 0, catHeb},         {"HEM", 3, 0, catHem},
-      {"IPE", 4, 0, catIpe},          {"INP", 15, 0, catInp},        {"UPE", 5, 0, catUpe},
-      {"UNP", 16, 0, catUnp},         {"SHS", 6, 0, catShs},         {"RHS", 7, 0, catRhs},
-      {"CFSHS", 8, 0, catCfshs},      {"CFRHS", 9, 0, catCfrhs},     {"L-equal", 10, 0, catL1},
-      {"L-unequal", 11, 0, catL2},    {"UB", 101, 1, catUb},         {"UC", 101, 2, catUc},
-      {"UBP", 101, 3, catUbp},        {"J", 102, 0, catJ},           {"PFC", 103, 1, catPfc},
+      {"HEA", 1, 0, catHea},       {"HEB", 2, 0, catHeb},     {"HEM", 3, 0, catHem},
+      {"IPE", 4, 0, catIpe},       {"INP", 15, 0, catInp},    {"UPE", 5, 0, catUpe},
+      {"UNP", 16, 0, catUnp},      {"SHS", 6, 0, catShs},     {"RHS", 7, 0, catRhs},
+      {"CFSHS", 8, 0, catCfshs},   {"CFRHS", 9, 0, catCfrhs}, {"L-equal", 10, 0, catL1},
+      {"L-unequal", 11, 0, catL2}, {"UB", 101, 1, catUb},     {"UC", 101, 2, catUc},
+      {"UBP", 101, 3, catUbp},     {"J", 102, 0, catJ},       {"PFC", 103, 1, catPfc},
       {"CH", 103, 2, catCh},
   };
   return kFamilies;
@@ -163,6 +167,83 @@ LightestResult FindLightest(const State& member, const std::vector<const Catalog
   std::stable_sort(result.passing.begin(), result.passing.end(),
                    [](const LightestRow& a, const LightestRow& b) { return a.outcome.g < b.outcome.g; });
   return result;
+}
+
+namespace {
+
+std::string FamilyNames(const std::vector<const CatalogueFamily*>& families, const char* sep) {
+  std::string t;
+  for (const CatalogueFamily* f : families) t += (t.empty() ? "" : sep) + std::string(f->name);
+  return t;
+}
+
+// The shortest text that reads back as the same double.
+std::string JsonNumber(double v) {
+  char buf[32];
+  const auto [end, ec] = std::to_chars(buf, buf + sizeof buf, v);
+  return ec == std::errc() ? std::string(buf, end) : std::string("0");
+}
+
+std::string JsonNumber(float v) {
+  char buf[32];
+  const auto [end, ec] = std::to_chars(buf, buf + sizeof buf, v);
+  return ec == std::errc() ? std::string(buf, end) : std::string("0");
+}
+
+}  // namespace
+
+std::string LightestText(const LightestResult& r, const std::vector<const CatalogueFamily*>& families,
+                         double limit, bool decimalComma) {
+  std::string out =
+      "Lightest sections that pass (every ratio <= " + FormatNumber(limit, "0.0", decimalComma) +
+      "), by mass: " + FamilyNames(families, ", ") + ", " + std::to_string(r.rowsRun) + " rows run, " +
+      std::to_string(r.passing.size()) + " pass";
+  if (r.failedRuns > 0) out += ", " + std::to_string(r.failedRuns) + " ended in the calculation error";
+  if (r.cancelled) out += " (stopped before the end)";
+  out += "\n";
+  if (r.passing.empty()) return out + "No row of these families passes.\n";
+  std::vector<std::array<std::string, 4>> rows;
+  rows.push_back({"g kg/m", "section", "IR", "control"});
+  for (const LightestRow& row : r.passing)
+    rows.push_back({FormatNumber(row.outcome.g, "#0.0", decimalComma), row.section, row.outcome.ratioText,
+                    DescribeControl(row.outcome)});
+  size_t w0 = 0, w1 = 0, w2 = 0;
+  for (const auto& row : rows) {
+    w0 = std::max(w0, row[0].size());
+    w1 = std::max(w1, row[1].size());
+    w2 = std::max(w2, row[2].size());
+  }
+  for (const auto& row : rows)
+    out += std::string(w0 - row[0].size(), ' ') + row[0] + "  " + row[1] +
+           std::string(w1 - row[1].size(), ' ') + "  " + std::string(w2 - row[2].size(), ' ') + row[2] +
+           "  " + row[3] + "\n";
+  return out;
+}
+
+std::string LightestJson(const LightestResult& r, const std::vector<const CatalogueFamily*>& families,
+                         double limit) {
+  std::string out = "{\"families\":[";
+  for (size_t i = 0; i < families.size(); ++i) out += (i ? "," : "") + JsonString(families[i]->name);
+  out += "],\"IRlimit\":" + JsonNumber(limit) + ",\"rowsRun\":" + std::to_string(r.rowsRun) +
+         ",\"failedRuns\":" + std::to_string(r.failedRuns) +
+         ",\"cancelled\":" + (r.cancelled ? "true" : "false") + ",\"passing\":[";
+  for (size_t i = 0; i < r.passing.size(); ++i) {
+    const LightestRow& row = r.passing[i];
+    const MemberOutcome& o = row.outcome;
+    out += i ? ",\n" : "\n";
+    out += "{\"family\":" + JsonString(row.family->name) + ",\"type\":" + std::to_string(row.family->type) +
+           ",\"row\":" + std::to_string(row.row) + ",\"section\":" + JsonString(row.section) +
+           ",\"g\":" + JsonNumber(o.g) + ",\"IR\":" + JsonNumber(o.ratio) +
+           ",\"IRtext\":" + JsonString(o.ratioText) + ",\"block\":" + JsonString(o.block) +
+           ",\"formula\":" + JsonString(o.formula) + ",\"clause\":" + JsonString(o.clause) + ",\"choose\":[";
+    const auto events = ChoiceEvents(*row.family, row.row);
+    for (size_t k = 0; k < events.size(); ++k)
+      out += (k ? "," : "") + JsonString(events[k].second.empty() ? events[k].first
+                                                                  : events[k].first + "=" + events[k].second);
+    out += "]}";
+  }
+  out += "]}";
+  return out;
 }
 
 }  // namespace vn

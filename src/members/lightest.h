@@ -68,4 +68,15 @@ LightestResult FindLightest(const State& member, const std::vector<const Catalog
                             int workers = 0, const Progress& progress = {},
                             const std::atomic<bool>* cancel = nullptr);
 
+// The list as a table for a terminal: the families and rows run, then a line per passing row with
+// its mass, section, governing ratio and control; `limit` is IRlimit.
+std::string LightestText(const LightestResult& r, const std::vector<const CatalogueFamily*>& families,
+                         double limit, bool decimalComma);
+
+// The same as JSON: {"families", "IRlimit", "rowsRun", "failedRuns", "passing": [{"family", "type",
+// "row", "section", "g", "IR", "IRtext", "block", "formula", "clause", "choose"}]}, where "choose"
+// are the events that choose the row by hand ("mnup04", "p04.cbo=8").
+std::string LightestJson(const LightestResult& r, const std::vector<const CatalogueFamily*>& families,
+                         double limit);
+
 }  // namespace vn

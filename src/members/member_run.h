@@ -17,14 +17,14 @@ void RunMember(State& s);
 
 // What a run of one member came to.
 struct MemberOutcome {
-  bool ran = false;     // the run reached its end; false: it ended in the calculation error
-  bool passes = false;  // ran, and no shown ratio is above IRlimit (nor red)
+  bool ran = false;       // the run reached its end; false: it ended in the calculation error
+  bool passes = false;    // ran, and no shown ratio is above IRlimit (nor red)
   double ratio = 0;       // the governing ratio as its control kept it (0 when no line was shown)
   std::string ratioText;  // as the summary shows it, "0.84"
-  std::string block;    // "section", "buckling", "deflection"; empty when no line
-  std::string formula;  // "IR = My,Ed/My,Rd"
-  std::string clause;   // "Ch 6.2.5"
-  Single g = 0;         // mass of the section, kg/m
+  std::string block;      // "section", "buckling", "deflection"; empty when no line
+  std::string formula;    // "IR = My,Ed/My,Rd"
+  std::string clause;     // "Ch 6.2.5"
+  Single g = 0;           // mass of the section, kg/m
 };
 
 // The outcome of the last run of `s`.

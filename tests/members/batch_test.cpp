@@ -77,9 +77,10 @@ TEST(Batch, AHeaderWithoutARequiredColumnOrWithAnUnknownOneStopsTheFile) {
 
 // Members of every kind: columns, beams, end forces, supports, factors, grades and families.
 std::string ManyMembers() {
-  const char* sections[] = {"IPE;IPE 300", "HEB;HEB 200", "RHS;RHS 200x100x8", "SHS;RHS 100x100x5",
-                            "L-equal;L 100x100x10", "UB;UB 305x165x40", "PFC;PFC 200x90x30", "UPE;UPE 200",
-                            "INP;INP 200", "CFRHS;CFRHS 150x100x6"};
+  const char* sections[] = {"IPE;IPE 300",          "HEB;HEB 200",          "RHS;RHS 200x100x8",
+                            "SHS;RHS 100x100x5",    "L-equal;L 100x100x10", "UB;UB 305x165x40",
+                            "PFC;PFC 200x90x30",    "UPE;UPE 200",          "INP;INP 200",
+                            "CFRHS;CFRHS 150x100x6"};
   std::string csv = "member;family;section;grade;L;support;ky;kz;N_G;qz_Q;NEd;My1;Mz2\n";
   int n = 0;
   for (const char* section : sections) {
@@ -87,8 +88,9 @@ std::string ManyMembers() {
       const bool forces = k % 3 == 2;
       csv += "M" + std::to_string(n) + ";" + section + ";" + (k % 2 ? "S355" : "S235") + ";" +
              std::to_string(3 + k % 4) + ",5;" + (forces ? "0" : std::to_string(k % 6)) + ";" +
-             (k % 4 == 1 ? "0,7" : "") + ";;" + (forces ? ";;" + std::to_string(50 + 10 * k) + ";20;3\n"
-                                                        : std::to_string(20 * k) + ";" + std::to_string(k) + ";;;\n");
+             (k % 4 == 1 ? "0,7" : "") + ";;" +
+             (forces ? ";;" + std::to_string(50 + 10 * k) + ";20;3\n"
+                     : std::to_string(20 * k) + ";" + std::to_string(k) + ";;;\n");
     }
   }
   return csv;
