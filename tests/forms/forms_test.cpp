@@ -11,14 +11,18 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSignalSpy>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -34,6 +38,7 @@
 #include "core/recalculate.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
+#include "forms/lightest_dialog.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
 #include "forms/picture_box.h"
@@ -98,6 +103,42 @@ class FormsTest : public QObject {
     form.reset();
     session.reset();
     ResetBoxes();
+  }
+
+  // ---- the lightest section ----
+
+  // From the Profiles menu: the search runs in the background with its bar, the rows that pass are
+  // listed by mass, and a double click chooses one by the events of its section dialog.
+  void lightestSectionIsFoundAndChosenByADoubleClick() {
+    session->fire("mnup04");
+    session->fire("Loading.inn(1)", "0");
+    const int rowBefore = session->state().project.SelectedRow[vn::catIpe];
+    QAction* entry = form->menuAction("mnulightest");
+    QVERIFY(entry);
+    QVERIFY(form->profilesMenu()->actions().contains(entry));
+    entry->trigger();
+    auto* d = qobject_cast<LightestDialog*>(form->dialog("lightest"));
+    QVERIFY(d);
+    QCOMPARE(d->families()->item(3)->text(), QString("IPE"));  // the member's own family ticked
+    QCOMPARE(d->families()->item(3)->checkState(), Qt::Checked);
+    QSignalSpy finished(d, &LightestDialog::searchFinished);
+    d->search();
+    QVERIFY(d->searching() || finished.count() == 1);
+    QVERIFY(finished.count() == 1 || finished.wait(30000));
+    QVERIFY(d->table()->rowCount() > 0);
+    QCOMPARE(d->findChild<QProgressBar*>("progress")->value(), 18);
+    // Nothing chosen yet: the project is as it was.
+    QCOMPARE(session->state().project.SelectedRow[vn::catIpe], rowBefore);
+    const QString lightest = d->table()->item(0, 1)->text();
+    QVERIFY(lightest.startsWith("IPE"));
+    d->choose(0);
+    const vn::State& s = session->state();
+    QCOMPARE(s.project.ProfileType, 4);
+    QCOMPARE(QString::fromStdString(
+                 vn::CatalogueListText(s.catalogues, vn::catIpe, s.project.SelectedRow[vn::catIpe])),
+             lightest);
+    QVERIFY(s.resultsValid);
+    QVERIFY(form->dialog("p04"));  // chosen as in its dialog, which stands open
   }
 
   // ---- the printed reports ----
