@@ -434,7 +434,8 @@ class FormsTest : public QObject {
     QCOMPARE(form->menuAction("mnuprint11")->text(), QString("Print  - Section and Stability Control"));
     QCOMPARE(form->menuAction("mnuhelpsearch")->text(), QString("&Search for Help On . . . "));
     QCOMPARE(form->profilesMenu()->title(), QString("&Profiles"));
-    // Profiles: four separators, the British entries under their label.
+    // Profiles: four separators between the groups, the British entries under their label, and
+    // after a fifth the search for the lightest section.
     QStringList captions;
     int separators = 0;
     for (QAction* a : form->profilesMenu()->actions()) {
@@ -445,11 +446,12 @@ class FormsTest : public QObject {
         captions << a->text();
       }
     }
-    QCOMPARE(separators, 4);
-    QCOMPARE(captions.size(), 36);
+    QCOMPARE(separators, 5);
+    QCOMPARE(captions.size(), 38);
     QCOMPARE(captions.indexOf("I - double symmetric") - 1, captions.indexOf("-"));
     const int british = captions.indexOf("British profiles");
-    QCOMPARE(captions.mid(british - 1), (QStringList{"-", "British profiles", "U", "J", "C"}));
+    QCOMPARE(captions.mid(british - 1),
+             (QStringList{"-", "British profiles", "U", "J", "C", "-", "Lightest Section that Passes..."}));
     QCOMPARE(form->menuAction("mnuc")->text(), QString("C"));
     // An entry is there to be used exactly when the core has its control.
     for (const char* name : {"mnup01", "mnup41", "mnuopen", "mnusetup", "mnuload1"})
