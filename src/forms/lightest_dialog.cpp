@@ -141,6 +141,7 @@ void LightestDialog::search() {
         },
         cancel.get());
   });
+  thread_->setParent(this);  // waited for and deleted with the dialog when it goes first
   connect(thread_, &QThread::finished, this, [this] {
     thread_->deleteLater();
     thread_ = nullptr;
