@@ -24,6 +24,8 @@
 #include "core/state.h"
 #include "export/spreadsheet_export.h"
 #include "graphics/canvas.h"
+#include "members/batch.h"
+#include "members/lightest.h"
 #include "results/detail_table.h"
 #include "results/report.h"
 #include "results/summary.h"
@@ -59,6 +61,24 @@ const char* kUsage =
     "  --project            the project as text (what is printed when no output is asked for)\n"
     "  --controls           every control with its kind, dialog, unit and limits (with --json as\n"
     "                       JSON); a list's entries are given by --do with a text it does not hold\n"
+    "  --lightest FAMILIES  the lightest sections that pass: every row of the families is run on a\n"
+    "                       copy of the member as it stands after the events, and the rows whose\n"
+    "                       every ratio is within the limit are listed by mass (kg/m) with the\n"
+    "                       governing ratio and control (with --json as JSON); the project is not\n"
+    "                       changed. FAMILIES: names or numbers, comma separated: HEA (1), HEB (2),\n"
+    "                       HEM (3), IPE (4), INP (15), UPE (5), UNP (16), SHS (6), RHS (7),\n"
+    "                       CFSHS (8), CFRHS (9), L-equal (10), L-unequal (11), UB, UC, UBP (101),\n"
+    "                       J (102), PFC, CH (103), or all\n"
+    "Many members:\n"
+    "  --batch FILE         run many members, one line each: FILE is a project file (.vnt), a list\n"
+    "                       of project files (one path a line), or a CSV of members whose header\n"
+    "                       names the columns (see README.md: member, family, section, grade, L,\n"
+    "                       support, ky, kz, ltb, loads N_G N_Q qz_G qz_Q qy_G qy_Q or end forces\n"
+    "                       NEd My1 My2 Vz1 Vz2 Mz1 Mz2 Vy1 Vy2); prints a line per member with\n"
+    "                       its governing ratio, verdict and control; a bad line or file is named\n"
+    "                       on stderr with its line number and the others run all the same.\n"
+    "                       --csv and --xlsx write the table of the members\n"
+    "  --threads N          worker threads of --lightest and --batch (default: all cores)\n"
     "Files:\n"
     "  --save PATH          save the project to PATH\n"
     "  --xlsx PATH          write the table of detailed results as an .xlsx workbook\n"
@@ -77,7 +97,10 @@ const char* kUsage =
     "  2  an event was refused (its message on stderr, the later events not run), an unknown\n"
     "     control or option, or a list text that names no entry\n"
     "  3  a file error: a project file missing or not a project, a data file missing or\n"
-    "     unreadable, a file that can't be written\n"
+    "     unreadable, a file that can't be written, the --batch file unreadable or empty\n"
+    "  4  --lightest: no row passes; --batch: a member is NOT OK or its run ended in the\n"
+    "     calculation error (all lines read)\n"
+    "  5  --batch: a line or project file could not be read (the others were run)\n"
     "\n"
     "Examples:\n"
     "  A beam: IPE 360 in S275, 6.5 m, simply supported, 12 kN/m and no axial force; the summary\n"
@@ -88,7 +111,11 @@ const char* kUsage =
     "    varnelt-cli --do mnup02 --do p02.cbo=HEB200 --do il=4 --do cbutt2 \\\n"
     "                --do \"Loading.inn(1)=800\" --do \"Loading.iq(1)=0\" --json\n"
     "  A project file, its stability report, its table exported to a workbook\n"
-    "    varnelt-cli beam.vnt --report stability --xlsx beam.xlsx\n";
+    "    varnelt-cli beam.vnt --report stability --xlsx beam.xlsx\n"
+    "  The lightest IPE or HEA that carries the member of a project file\n"
+    "    varnelt-cli beam.vnt --lightest IPE,HEA\n"
+    "  A CSV of members, the results written to a workbook\n"
+    "    varnelt-cli --batch members.csv --xlsx members.xlsx\n";
 
 std::string ProgramFolder(const char* argv0) {
   char buf[PATH_MAX];
@@ -158,6 +185,8 @@ int main(int argc, char** argv) {
   std::vector<std::string> events;
   std::vector<Output> outputs;
   bool controls = false;
+  std::optional<std::string> lightest, batchFile;
+  int threads = 0;   // 0: all cores
   int decimal = -1;  // -1 from the locale
   for (int i = 1; i < argc; ++i) {
     std::string a = argv[i];
@@ -182,7 +211,21 @@ int main(int argc, char** argv) {
       outputs.push_back({Out::Project});
     else if (a == "--controls")
       controls = true;
-    else if (a == "--report") {
+    else if (a == "--lightest")
+      lightest = next("FAMILIES");
+    else if (a == "--batch")
+      batchFile = next("FILE");
+    else if (a == "--threads") {
+      const std::string n = next("N");
+      char* end = nullptr;
+      const long v = std::strtol(n.c_str(), &end, 10);
+      if (n.empty() || *end != '\0' || v < 0 || v > 256) {
+        std::cerr << "varnelt-cli: --threads takes a number of threads from 0 (all cores) to 256, not " << n
+                  << "\n";
+        return 2;
+      }
+      threads = static_cast<int>(v);
+    } else if (a == "--report") {
       const std::string kind = next("section or stability");
       if (kind != "section" && kind != "stability") {
         std::cerr << "varnelt-cli: --report takes section or stability, not " << kind << "\n";
@@ -220,6 +263,38 @@ int main(int argc, char** argv) {
       return 2;
     }
   }
+  // --batch runs the members of its file and nothing else; --lightest prints its list alone (or
+  // with --json as JSON), after the project and the events that make the member.
+  if (batchFile && (!projectPath.empty() || !events.empty() || !outputs.empty() || controls || lightest ||
+                    !savePath.empty() || !svgDir.empty())) {
+    std::cerr << "varnelt-cli: --batch runs the members of its file alone (with --csv, --xlsx, --threads, "
+                 "--data and the decimal sign)\n";
+    return 2;
+  }
+  bool lightestJson = false;
+  std::vector<const vn::CatalogueFamily*> families;
+  if (lightest) {
+    for (const Output& o : outputs) {
+      if (o.kind != Out::Json || controls || xlsxPath || csvPath || !svgDir.empty()) {
+        std::cerr << "varnelt-cli: --lightest prints its list alone (or with --json as JSON); run the other "
+                     "outputs separately\n";
+        return 2;
+      }
+      lightestJson = true;
+    }
+    if (controls || xlsxPath || csvPath || !svgDir.empty()) {
+      std::cerr << "varnelt-cli: --lightest prints its list alone (or with --json as JSON); run the other "
+                   "outputs separately\n";
+      return 2;
+    }
+    std::string error;
+    if (!vn::ParseFamilies(*lightest, &families, &error)) {
+      std::cerr << "varnelt-cli: " << error << "\n";
+      return 2;
+    }
+    outputs.clear();
+  }
+
   // --controls prints the listing, as text or (with --json) as JSON; other outputs beside it
   // would be lost in it, so they are refused.
   if (controls) {
@@ -235,7 +310,7 @@ int main(int argc, char** argv) {
     outputs = {{Out::Controls}};
     if (json) outputs.push_back({Out::Json});  // marks the JSON form of the listing
   }
-  if (outputs.empty() && !controls) outputs.push_back({Out::Project});
+  if (outputs.empty() && !controls && !lightest && !batchFile) outputs.push_back({Out::Project});
 
   // The data files beside the program, or in ../share/varnelt of an installed one.
   const std::string dataFolder = dataDir.empty() ? vn::DataFolder(ProgramFolder(argv[0])) : dataDir;
@@ -248,6 +323,32 @@ int main(int argc, char** argv) {
   const bool comma = decimal < 0 ? vn::DetectDecimalComma() : decimal == 1;
   vn::StartUp(s, dataFolder, comma);
   s.spreadsheet = vn::ExportDetailGrid;  // the export button of More Results
+
+  if (batchFile) {
+    const vn::BatchResult r = vn::RunBatch(s, *batchFile, threads);
+    if (!r.fileError.empty()) {
+      std::cerr << "varnelt-cli: " << r.fileError << "\n";
+      return 3;
+    }
+    for (const vn::BatchEntry& e : r.entries)
+      if (!e.error.empty())
+        std::cerr << "varnelt-cli: " << e.source
+                  << (e.line > 0 ? ":" + std::to_string(e.line) : std::string()) << ": " << e.member << ": "
+                  << e.error << "\n";
+    std::cout << vn::BatchText(r, s.decimalComma);
+    if (xlsxPath || csvPath) {
+      const auto table = vn::BatchTable(r, s.decimalComma);
+      std::string error;
+      const bool written = (!xlsxPath || vn::WriteTableXlsx(table, {24, 6, 16, 20, 10, 8, 8, 11, 60}, {},
+                                                            *xlsxPath, &error)) &&
+                           (!csvPath || vn::WriteTableCsv(table, *csvPath, &error));
+      if (!written) {
+        std::cerr << "varnelt-cli: " << error << "\n";
+        return 3;
+      }
+    }
+    return r.bad > 0 ? 5 : r.notOk > 0 ? 4 : 0;
+  }
 
   if (!projectPath.empty()) {
     std::string error;
@@ -281,6 +382,14 @@ int main(int argc, char** argv) {
       }
       return 2;
     }
+  }
+
+  if (lightest) {
+    const vn::LightestResult r = vn::FindLightest(s, families, threads);
+    const double limit = s.analysis.IRlimit;
+    std::cout << (lightestJson ? vn::LightestJson(r, families, limit) + "\n"
+                               : vn::LightestText(r, families, limit, s.decimalComma));
+    return r.passing.empty() ? 4 : 0;
   }
 
   if (controls) {

@@ -530,8 +530,8 @@ template <class V, class C>
 void VisitChecks(V& v, C& c) {
   VN_F(c, IRsec);
   for (int i = 1; i <= 6; ++i) {
-    static const char* names[7] = {"",         "secText1", "secText2", "secText3",
-                                   "secText4", "secText5", "secText6"};
+    static const char* const names[7] = {"",         "secText1", "secText2", "secText3",
+                                         "secText4", "secText5", "secText6"};
     VisitControlText(v, names[i], c.secText[static_cast<size_t>(i)]);
   }
   VN_F(c, colSec);

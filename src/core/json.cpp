@@ -238,6 +238,12 @@ class FieldSetter {
 
 }  // namespace
 
+std::string JsonString(const std::string& text) {
+  std::string out;
+  Escape(out, text);
+  return out;
+}
+
 std::string StateToJson(const State& s) {
   JsonWriter w;
   w.Open('{');

@@ -2,6 +2,7 @@
 
 #include <xlsxwriter.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <cmath>
@@ -73,8 +74,8 @@ bool CellNumber(const std::string& text, double* value, int* decimals, bool* exp
 
 }  // namespace
 
-bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
-                     std::string* error) {
+bool WriteTableXlsx(const std::vector<TableRow>& rows, const std::vector<double>& widths,
+                    const std::set<int>& bold, const std::string& path, std::string* error) {
   // libxlsxwriter opens the file by its name: it is given the name of the temporary file.
   auto fill = [&](const std::string& temp, std::string* reason) {
     lxw_workbook* book = workbook_new(temp.c_str());
@@ -86,10 +87,11 @@ bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bo
     lxw_format* strong = workbook_add_format(book);
     format_set_bold(strong);
 
-    // The first column takes about a third of the table's width, as in the dialog.
-    const double widths[kDetailColumns] = {24, 16, 10, 18};
-    for (int c = 0; c < kDetailColumns; ++c)
-      worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c), widths[c], nullptr);
+    size_t columns = widths.size();
+    for (const TableRow& row : rows) columns = std::max(columns, row.size());
+    for (size_t c = 0; c < columns; ++c)
+      worksheet_set_column(sheet, static_cast<lxw_col_t>(c), static_cast<lxw_col_t>(c),
+                           c < widths.size() ? widths[c] : 12, nullptr);
 
     // A number is written as a number, shown with the decimals the table shows (so that a
     // spreadsheet computes with it); every other cell as its text.
@@ -108,8 +110,8 @@ bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bo
     lxw_error failed = LXW_NO_ERROR;
     for (size_t r = 0; r < rows.size() && failed == LXW_NO_ERROR; ++r) {
       const bool isBold = r == 0 || bold.count(static_cast<int>(r)) > 0;
-      for (int c = 0; c < kDetailColumns && failed == LXW_NO_ERROR; ++c) {
-        const std::string& text = rows[r][static_cast<size_t>(c)];
+      for (size_t c = 0; c < rows[r].size() && failed == LXW_NO_ERROR; ++c) {
+        const std::string& text = rows[r][c];
         if (text.empty()) continue;  // an empty cell stays empty
         const auto row = static_cast<lxw_row_t>(r);
         const auto col = static_cast<lxw_col_t>(c);
@@ -139,23 +141,46 @@ bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bo
   return false;
 }
 
-std::string DetailCsvText(const std::vector<DetailRow>& rows) {
+std::string TableCsvText(const std::vector<TableRow>& rows) {
   std::string out;
-  for (const DetailRow& row : rows) {
-    for (int c = 0; c < kDetailColumns; ++c) {
+  for (const TableRow& row : rows) {
+    for (size_t c = 0; c < row.size(); ++c) {
       if (c > 0) out += ',';
-      out += CsvCell(row[static_cast<size_t>(c)]);
+      out += CsvCell(row[c]);
     }
     out += "\r\n";
   }
   return out;
 }
 
-bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path, std::string* error) {
+bool WriteTableCsv(const std::vector<TableRow>& rows, const std::string& path, std::string* error) {
   std::string reason;
-  if (ReplaceFile(path, DetailCsvText(rows), &reason)) return true;
+  if (ReplaceFile(path, TableCsvText(rows), &reason)) return true;
   *error = CannotWrite(path, reason);
   return false;
+}
+
+namespace {
+
+std::vector<TableRow> DetailRows(const std::vector<DetailRow>& rows) {
+  std::vector<TableRow> out;
+  out.reserve(rows.size());
+  for (const DetailRow& row : rows) out.emplace_back(row.begin(), row.end());
+  return out;
+}
+
+}  // namespace
+
+bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bold, const std::string& path,
+                     std::string* error) {
+  // The first column takes about a third of the table's width, as in the dialog.
+  return WriteTableXlsx(DetailRows(rows), {24, 16, 10, 18}, bold, path, error);
+}
+
+std::string DetailCsvText(const std::vector<DetailRow>& rows) { return TableCsvText(DetailRows(rows)); }
+
+bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path, std::string* error) {
+  return WriteTableCsv(DetailRows(rows), path, error);
 }
 
 bool ExportDetailGrid(const State& s, const std::string& path, std::string* error) {

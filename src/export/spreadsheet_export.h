@@ -24,6 +24,15 @@ bool WriteDetailXlsx(const std::vector<DetailRow>& rows, const std::set<int>& bo
 std::string DetailCsvText(const std::vector<DetailRow>& rows);
 bool WriteDetailCsv(const std::vector<DetailRow>& rows, const std::string& path, std::string* error);
 
+// Any table of text cells (a row a vector, rows of any length) as a workbook of one worksheet, the
+// columns `widths` wide (characters; missing ones 12), cells that are numbers written as numbers,
+// the rows in `bold` and row 0 bold; and as comma-separated text as above. False with the reason.
+using TableRow = std::vector<std::string>;
+bool WriteTableXlsx(const std::vector<TableRow>& rows, const std::vector<double>& widths,
+                    const std::set<int>& bold, const std::string& path, std::string* error);
+std::string TableCsvText(const std::vector<TableRow>& rows);
+bool WriteTableCsv(const std::vector<TableRow>& rows, const std::string& path, std::string* error);
+
 // The grid of the More Results dialog (filled as on its Activate when it is still empty) to `path`:
 // CSV when the name ends in ".csv" (any case), else .xlsx. This is the State's `spreadsheet`.
 bool ExportDetailGrid(const State& s, const std::string& path, std::string* error);

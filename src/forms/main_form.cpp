@@ -32,6 +32,7 @@
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
 #include "forms/help_window.h"
+#include "forms/lightest_dialog.h"
 #include "forms/painter_canvas.h"
 #include "forms/picture_box.h"
 #include "forms/profiles.h"
@@ -173,7 +174,7 @@ bool FormHandles(const std::string& control) {
   return control == "mnuexit" || control == "mnuabout" || control == "mnuProfDB" ||
          control == "mnuhelpcont" || control == "mnuhelpsearch" || control == "mnuTheory" ||
          control == "mnuprint0" || control == "mnuprint00" || control == "mnuprint1" ||
-         control == "mnuprint11" || control == "mnupdf0" || control == "mnupdf1";
+         control == "mnuprint11" || control == "mnupdf0" || control == "mnupdf1" || control == "mnulightest";
 }
 
 // The help pages, in help/ beside the data files.
@@ -290,6 +291,9 @@ void MainForm::buildMenus() {
     }
     addEntry(profilesMenu_, e.menu, e.caption);
   }
+  // The lightest section of the catalogue families that carries the member as it stands.
+  profilesMenu_->addSeparator();
+  addEntry(profilesMenu_, "mnulightest", "Lightest Section that Passes...");
 
   top("mnuload1", "&Loading");
   top("mnuendforces", "&Endforces");
@@ -799,6 +803,10 @@ void MainForm::onMenu(const std::string& control) {
       boxes().warning(this, "Can't write " + QDir::toNativeSeparators(path));
     return;
   }
+  if (control == "mnulightest") {
+    openDialog("lightest");
+    return;
+  }
   if (control == "mnuTheory") {
     OpenDocument(this, TheoryManualPath(session_), QStringLiteral("Theory manual not found: "));
     return;
@@ -824,6 +832,11 @@ void MainForm::onMenu(const std::string& control) {
 // ---- Dialogs ----
 
 QWidget* MainForm::createDialog(const std::string& name) {
+  if (name == "lightest") {
+    auto* d = new LightestDialog(session_, this);
+    d->setAttribute(Qt::WA_DeleteOnClose);
+    return d;
+  }
   if (const ProfileEntry* e = ProfileOfDialog(name)) {
     auto* d = new SectionDialog(session_, *e, this);
     return d;

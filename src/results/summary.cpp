@@ -179,12 +179,11 @@ std::string Clause(const std::string& limit) {
 
 }  // namespace
 
-void ShowVerdict(State& s) {
+GoverningControl FindGoverningControl(const State& s) {
   const Project& p = s.project;
   const Checks& k = s.checks;
   const Analysis& an = s.analysis;
-  s.view.verdict.clear();
-  s.view.verdictColour = 0;
+  GoverningControl g;
 
   struct Candidate {
     const char* block;
@@ -193,8 +192,8 @@ void ShowVerdict(State& s) {
     Integer colour;
   };
   std::vector<Candidate> lines;
-  for (size_t g = 1; g <= 3; ++g)
-    if (!k.secText[g].Formula.empty()) lines.push_back({"section", &k.secText[g], k.IRsec[g], k.colSec[g]});
+  for (size_t i = 1; i <= 3; ++i)
+    if (!k.secText[i].Formula.empty()) lines.push_back({"section", &k.secText[i], k.IRsec[i], k.colSec[i]});
   if (HasBucklingBlock(p.ProfileType)) {
     if (!k.buckTextY.Formula.empty()) lines.push_back({"buckling", &k.buckTextY, k.IRbuckY, k.colBuckY});
     if (!k.buckTextZ.Formula.empty()) lines.push_back({"buckling", &k.buckTextZ, k.IRbuckZ, k.colBuckZ});
@@ -206,34 +205,46 @@ void ShowVerdict(State& s) {
     if (!an.deflTextY.Formula.empty())
       lines.push_back({"deflection", &an.deflTextY, an.IRdeflY, an.colDeflY});
   }
-  if (lines.empty()) return;
+  if (lines.empty()) return g;
 
   // The ratio of a line is the larger of the number the control kept and the one its text shows,
   // so that the verdict never reads lower than the summary beside it.
   const double limit = an.IRlimit;
   const Candidate* governing = nullptr;
   double largest = -1;
-  bool fails = false;
   for (const Candidate& c : lines) {
     const double ratio = std::max(std::fabs(c.ratio), RatioOfText(c.text->Ratio));
     if (ratio > largest) {  // the first of equal ratios keeps the place
       largest = ratio;
       governing = &c;
     }
-    fails = fails || c.colour == kRed || ratio > limit;
+    g.fails = g.fails || c.colour == kRed || ratio > limit;
   }
   const ControlText& t = *governing->text;
-  std::string ratio = t.Ratio;
-  if (RatioOfText(ratio) < 0) ratio = FormatNumber(largest, "0.00", s.decimalComma);
-  std::string where = Clause(t.Limit);
-  if (where.empty() && std::string(governing->block) == "deflection")
-    where = "L/" + FormatNumber(p.deflectionLimit, "0", s.decimalComma);
-  std::string v = fails ? "NOT OK: " : "OK: ";
-  v += "governing IR = " + ratio + (fails ? " > " : " <= ") + FormatNumber(limit, "0.0", s.decimalComma) +
-       ", " + governing->block + " control: " + FormulaHead(t.Formula);
-  if (!where.empty()) v += " (" + where + ")";
+  g.any = true;
+  g.ratio = largest;
+  g.kept = std::fabs(governing->ratio);
+  g.ratioText = t.Ratio;
+  if (RatioOfText(g.ratioText) < 0) g.ratioText = FormatNumber(largest, "0.00", s.decimalComma);
+  g.block = governing->block;
+  g.formula = FormulaHead(t.Formula);
+  g.clause = Clause(t.Limit);
+  if (g.clause.empty() && g.block == "deflection")
+    g.clause = "L/" + FormatNumber(p.deflectionLimit, "0", s.decimalComma);
+  return g;
+}
+
+void ShowVerdict(State& s) {
+  s.view.verdict.clear();
+  s.view.verdictColour = 0;
+  const GoverningControl g = FindGoverningControl(s);
+  if (!g.any) return;
+  std::string v = g.fails ? "NOT OK: " : "OK: ";
+  v += "governing IR = " + g.ratioText + (g.fails ? " > " : " <= ") +
+       FormatNumber(s.analysis.IRlimit, "0.0", s.decimalComma) + ", " + g.block + " control: " + g.formula;
+  if (!g.clause.empty()) v += " (" + g.clause + ")";
   s.view.verdict = v;
-  s.view.verdictColour = fails ? kRed : kGreen;
+  s.view.verdictColour = g.fails ? kRed : kGreen;
 }
 
 namespace {

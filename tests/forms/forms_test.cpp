@@ -12,15 +12,19 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -38,6 +42,7 @@
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
 #include "forms/help_window.h"
+#include "forms/lightest_dialog.h"
 #include "forms/look.h"
 #include "forms/main_form.h"
 #include "forms/picture_box.h"
@@ -102,6 +107,42 @@ class FormsTest : public QObject {
     form.reset();
     session.reset();
     ResetBoxes();
+  }
+
+  // ---- the lightest section ----
+
+  // From the Profiles menu: the search runs in the background with its bar, the rows that pass are
+  // listed by mass, and a double click chooses one by the events of its section dialog.
+  void lightestSectionIsFoundAndChosenByADoubleClick() {
+    session->fire("mnup04");
+    session->fire("Loading.inn(1)", "0");
+    const int rowBefore = session->state().project.SelectedRow[vn::catIpe];
+    QAction* entry = form->menuAction("mnulightest");
+    QVERIFY(entry);
+    QVERIFY(form->profilesMenu()->actions().contains(entry));
+    entry->trigger();
+    auto* d = qobject_cast<LightestDialog*>(form->dialog("lightest"));
+    QVERIFY(d);
+    QCOMPARE(d->families()->item(3)->text(), QString("IPE"));  // the member's own family ticked
+    QCOMPARE(d->families()->item(3)->checkState(), Qt::Checked);
+    QSignalSpy finished(d, &LightestDialog::searchFinished);
+    d->search();
+    QVERIFY(d->searching() || finished.count() == 1);
+    QVERIFY(finished.count() == 1 || finished.wait(30000));
+    QVERIFY(d->table()->rowCount() > 0);
+    QCOMPARE(d->findChild<QProgressBar*>("progress")->value(), 18);
+    // Nothing chosen yet: the project is as it was.
+    QCOMPARE(session->state().project.SelectedRow[vn::catIpe], rowBefore);
+    const QString lightest = d->table()->item(0, 1)->text();
+    QVERIFY(lightest.startsWith("IPE"));
+    d->choose(0);
+    const vn::State& s = session->state();
+    QCOMPARE(s.project.ProfileType, 4);
+    QCOMPARE(QString::fromStdString(
+                 vn::CatalogueListText(s.catalogues, vn::catIpe, s.project.SelectedRow[vn::catIpe])),
+             lightest);
+    QVERIFY(s.resultsValid);
+    QVERIFY(form->dialog("p04"));  // chosen as in its dialog, which stands open
   }
 
   // ---- the printed reports ----
@@ -397,7 +438,8 @@ class FormsTest : public QObject {
     QCOMPARE(form->menuAction("mnuprint11")->text(), QString("Print  - Section and Stability Control"));
     QCOMPARE(form->menuAction("mnuhelpsearch")->text(), QString("&Search for Help On . . . "));
     QCOMPARE(form->profilesMenu()->title(), QString("&Profiles"));
-    // Profiles: four separators, the British entries under their label.
+    // Profiles: four separators between the groups, the British entries under their label, and
+    // after a fifth the search for the lightest section.
     QStringList captions;
     int separators = 0;
     for (QAction* a : form->profilesMenu()->actions()) {
@@ -408,11 +450,12 @@ class FormsTest : public QObject {
         captions << a->text();
       }
     }
-    QCOMPARE(separators, 4);
-    QCOMPARE(captions.size(), 36);
+    QCOMPARE(separators, 5);
+    QCOMPARE(captions.size(), 38);
     QCOMPARE(captions.indexOf("I - double symmetric") - 1, captions.indexOf("-"));
     const int british = captions.indexOf("British profiles");
-    QCOMPARE(captions.mid(british - 1), (QStringList{"-", "British profiles", "U", "J", "C"}));
+    QCOMPARE(captions.mid(british - 1),
+             (QStringList{"-", "British profiles", "U", "J", "C", "-", "Lightest Section that Passes..."}));
     QCOMPARE(form->menuAction("mnuc")->text(), QString("C"));
     // An entry is there to be used exactly when the core has its control.
     for (const char* name : {"mnup01", "mnup41", "mnuopen", "mnusetup", "mnuload1"})
