@@ -14,7 +14,7 @@ FUZZ_TIMEOUT ?= 1
 FUZZ_TARGETS := project_reader settings_files events
 JOBS      ?= $(shell nproc)
 PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
-             libxlsxwriter-dev qt6-base-dev xvfb xauth locales
+             libxlsxwriter-dev libeigen3-dev qt6-base-dev xvfb xauth locales
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
