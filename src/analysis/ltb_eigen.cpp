@@ -33,7 +33,7 @@ using Eigen::MatrixXd;
 using Vec4 = std::array<double, 4>;
 
 constexpr int kDofs = 4;           // v, v', phi, phi' at each node
-constexpr int kMaxElements = 400;  // a bound on the work of one run, whatever is asked
+constexpr int kMaxElements = 128;  // a bound on the work of one run, whatever is asked
 constexpr int kMinPerPart = 4;     // elements between two restraints at the least
 
 // Gauss-Legendre, 4 points on [0, 1].
