@@ -146,10 +146,11 @@ void EigenCriticalMoment(State& s) {
     k.McrNote = note;
     return;
   }
-  // The largest |My| of the diagram the factor is on, and where it lies.
+  // The largest |My| of the diagram the factor is on, and where it lies (the last of equals, as a
+  // later part wins a tie of the tables).
   size_t at = 0;
   for (size_t i = 0; i < an.MyGrid.size(); ++i)
-    if (std::fabs(an.MyGrid[i]) > std::fabs(an.MyGrid[at])) at = i;
+    if (std::fabs(an.MyGrid[i]) >= std::fabs(an.MyGrid[at])) at = i;
   const double Mmax = std::fabs(an.MyGrid[at]);
   k.McrByEigen = True;
   k.McrFactor = factor;
