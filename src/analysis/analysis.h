@@ -95,7 +95,8 @@ struct Analysis {
   MomentShape ShapeY, ShapeZ;
   Single InflectionY1 = 0, InflectionY2 = 0, InflectionZ1 = 0, InflectionZ2 = 0;
 
-  // Transverse loads in z of the combination in force; none in End forces mode.
+  // Transverse loads in z of the combination in force, while Mcr is by eigenvalue analysis; none
+  // in End forces mode.
   FactoredLoadsZ loadsZ;
 
   // Governing moments for the controls: My with its sign, Mz as a magnitude.

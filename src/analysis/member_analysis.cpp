@@ -285,7 +285,11 @@ void CombineLoads(State& s, CombForm form) {
   const Factors f = FactorsOf(s, form);
   auto F = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.F[c]; };
   auto S = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.S[c]; };
-  FactoredLoadsZInForce(s, F);
+  // Only the eigenvalue analysis of Mcr reads them: with the tables nothing is spent on them.
+  if (s.project.ltbMcrMethod == 1)
+    FactoredLoadsZInForce(s, F);
+  else
+    s.analysis.loadsZ = FactoredLoadsZ{};
 
   for (int i = 1; i <= 3; ++i) {
     const AxialLoad& a = l.axial[i];
