@@ -8,6 +8,7 @@
 #include "checks/buckling.h"
 #include "checks/buckling_fixture.h"
 #include "results/detail_table.h"
+#include "results/report.h"
 
 namespace vn {
 namespace {
@@ -238,6 +239,9 @@ TEST(McrEigen, MoreResultsAndTheDialogTellTheMethod) {
   EXPECT_EQ(RowNamed(t, " Mcr")->at(1), "90.382");
   EXPECT_EQ(s.view.text["vipping.McrMethod"], "Critical factor on My,Ed = 1.808");
   EXPECT_EQ(s.view.text["vipping.Mcr"], "Mcr = 90.382 kNm");
+  // The printed report names it among the lateral buckling parameters.
+  const std::string report = ReportText(BuildReport(s, ReportKind::Stability, "", ""));
+  EXPECT_NE(report.find("Mcr = 90.4 kNm  (Mcr by eigenvalue analysis of the member)"), std::string::npos);
 }
 
 }  // namespace
