@@ -17,7 +17,7 @@ FUZZ_TARGETS := project_reader settings_files events
 JOBS      ?= $(shell nproc)
 PREFIX    ?= /usr/local
 PACKAGES  := cmake ninja-build g++ pkg-config googletest libgtest-dev libgmock-dev libbenchmark-dev unzip \
-             libxlsxwriter-dev qt6-base-dev libqt6svg6 xvfb xauth locales \
+             libxlsxwriter-dev libeigen3-dev qt6-base-dev libqt6svg6 xvfb xauth locales \
              dpkg-dev desktop-file-utils shared-mime-info
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)

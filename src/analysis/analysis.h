@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "core/types.h"
 
@@ -54,6 +55,18 @@ struct UnitSolutions {
   std::array<Single, 9> forceValue{}, momentValue{};
 };
 
+// The transverse loads in z of the combination in force, factored: what the lateral torsional
+// eigenvalue analysis loads at the dialog's load height. A trapezoid is held as the 20 point forces
+// of its strips, as the solver carries it, so that it agrees with the moment diagram.
+struct FactoredForce {
+  double P = 0;  // kN, positive as a load that sags a simple beam
+  double x = 0;  // m
+};
+struct FactoredLoadsZ {
+  double q = 0;  // kN/m over the whole member (uniform slots 0..4)
+  std::vector<FactoredForce> forces;
+};
+
 struct Analysis {
   // Check grid: x/L of the points 0..NPoints.
   Integer NPoints = 0;
@@ -81,6 +94,10 @@ struct Analysis {
   FivePoints PointsY, PointsZ;
   MomentShape ShapeY, ShapeZ;
   Single InflectionY1 = 0, InflectionY2 = 0, InflectionZ1 = 0, InflectionZ2 = 0;
+
+  // Transverse loads in z of the combination in force, while Mcr is by eigenvalue analysis; none
+  // in End forces mode.
+  FactoredLoadsZ loadsZ;
 
   // Governing moments for the controls: My with its sign, Mz as a magnitude.
   Single MyGov = 0, MzGov = 0;

@@ -148,6 +148,35 @@ bool StrictGoverningCombination(State& s) {
   return true;
 }
 
+// The transverse loads in z with the factors of the combination, for the load height of the
+// lateral torsional eigenvalue analysis. Routed as the solver routes them: a slot of direction 0 acts
+// in y, a point slot of kind 1 is a moment. A trapezoid as the solver's 20 strips, each a force at
+// the strip's middle.
+template <class FactorOf>
+void FactoredLoadsZInForce(State& s, const FactorOf& F) {
+  const Loads& l = s.loads;
+  FactoredLoadsZ& z = s.analysis.loadsZ;
+  z = FactoredLoadsZ{};
+  for (int i = 0; i <= 4; ++i) {
+    const UniformLoad& q = l.uniform[i];
+    if (q.Dir != 0) z.q += F(CaseOf(q.Case), q.Checked) * q.q;
+  }
+  for (int i = 1; i <= 3; ++i) {
+    const TrapezoidLoad& t = l.trapezoid[i];
+    if (t.Dir == 0.0f) continue;
+    const double Fi = F(CaseOf(t.Case), t.Checked);
+    const double dq = (static_cast<double>(t.q2) - t.q1) / 20, dx = (static_cast<double>(t.x2) - t.x1) / 20;
+    if (dx == 0) continue;
+    for (int j = 1; j <= 20; ++j)
+      z.forces.push_back({Fi * (t.q1 + (j - 0.5) * dq) * dx, t.x1 + (j - 0.5) * dx});
+  }
+  for (int i = 1; i <= 8; ++i) {
+    const PointLoad& pl = l.point[i];
+    if (pl.Kind == 1 || pl.Dir == 0) continue;
+    z.forces.push_back({F(CaseOf(pl.Case), pl.Checked) * pl.Value, pl.x});
+  }
+}
+
 }  // namespace
 
 void ComputeCheckGrid(State& s) {
@@ -256,6 +285,11 @@ void CombineLoads(State& s, CombForm form) {
   const Factors f = FactorsOf(s, form);
   auto F = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.F[c]; };
   auto S = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.S[c]; };
+  // Only the eigenvalue analysis of Mcr reads them: with the tables nothing is spent on them.
+  if (s.project.ltbMcrMethod == 1)
+    FactoredLoadsZInForce(s, F);
+  else
+    s.analysis.loadsZ = FactoredLoadsZ{};
 
   for (int i = 1; i <= 3; ++i) {
     const AxialLoad& a = l.axial[i];
@@ -294,6 +328,7 @@ void MemberAnalysis(State& s) {
   Project& p = s.project;
   Analysis& an = s.analysis;
   ComputeCheckGrid(s);
+  an.loadsZ = FactoredLoadsZ{};
 
   if (p.AnalysisMode != 1) {
     EndForcePath(s);

@@ -74,10 +74,29 @@ double AlternativeC1Of(double k, const double M[5], double Mmax);
 // Text of part i of n equal parts of the member: "0 - L/2", "1L/3 - 2L/3", "1L/2 -  L".
 std::string PartLabel(int i, int n, bool decimalComma);
 
+// The double symmetric families whose Mcr takes the formula with C1, C2 (and the eigenvalue analysis).
+bool DoubleSymmetricLtbFamily(int type);
+// The height of the transverse loads above the shear centre by the dialog's load level, mm: the
+// flange's outer face, the shear centre, the typed Za from the centroid; 0 on the general section.
+double LtbLoadHeight(const State& s);
+// The moment resistance of the LT ratio for a moment M of its sign, kNm.
+double LtbResistanceOf(const State& s, double M);
+// chi LT by the curve in force (the general case where the family has no other).
+void RunLtbChi(State& s, double M);
+// The Wagner coefficient beta_y (mm) of an I with unequal flanges, flange 1 (b1, tf1) on top:
+// 2 z0 - Int z (y^2 + z^2) dA / Iy, z upwards from the centroid, z0 the shear centre. Positive when
+// the top flange is the stiffer, where a moment compressing the top is helped by it.
+double WagnerBetaY(double h, double b1, double tf1, double b2, double tf2, double tw);
+// Mcr of the member by its lateral torsional eigenvalue analysis (lateral_torsional_eigen.cpp),
+// after the tables have run: on success Mcr, lamdaLT, chi and the resistance anew at MyGov, with kc
+// of the tables; otherwise the tables' values stand and McrNote says why.
+void EigenCriticalMoment(State& s);
+
 void CFactorsFromLoad(State& s);
 void CriticalMoment(State& s);
 void ChiRolled(State& s, double M);
 void ChiGeneral(State& s, double M);
+// Mcr by the C factors, or by the eigenvalue analysis where the dialog chose it.
 void LateralTorsionalControl(State& s);
 void CriticalMoment0(State& s);
 

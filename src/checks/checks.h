@@ -36,6 +36,12 @@ struct Checks {
   Number xLT = 0;  // chi LT,mod
   Number kc = 0;
   Number fLT = 0;
+  // Where Mcr of the run came from: the eigenvalue analysis, with its critical factor on the design
+  // moment diagram, or the C factors; when the eigenvalue analysis was chosen and could not give Mcr,
+  // why (More Results, under "Other").
+  Boolean McrByEigen = False;
+  Number McrFactor = 0;
+  std::string McrNote;
 
   // Flexural and torsional buckling (rows 15-22).
   Number Ncry = 0, lamday = 0, chiy = 0;

@@ -7,6 +7,7 @@
 // member without restraints, a table by the end moment ratio for each part otherwise, the closed
 // formula of the ECCS rules on request, or the user.
 #include <cmath>
+#include <limits>
 
 #include "checks/buckling.h"
 #include "core/format.h"
@@ -22,11 +23,7 @@ CFactors Mix(double a, const CFactors& x, double b, const CFactors& y) {
   return {a * x.C1 + b * y.C1, a * x.C2 + b * y.C2, a * x.C3 + b * y.C3};
 }
 
-// Families whose critical moment takes the double symmetric formula.
-bool DoubleSymmetricLtb(int type) {
-  return (type >= 1 && type <= 5) || type == 15 || type == 16 || type == 21 || type == 28 ||
-         (type >= 101 && type <= 103) || type == 41;
-}
+bool DoubleSymmetricLtb(int type) { return DoubleSymmetricLtbFamily(type); }
 
 bool PlateFamily(int type) { return type >= 51 && type <= 56; }
 
@@ -67,9 +64,19 @@ bool McrFormula(const State& s, double LT, double C1, double w, double& Mcr) {
   return false;
 }
 
+double LtbResistance(const State& s, double M) { return LtbResistanceOf(s, M); }
+void RunChi(State& s, double M) { RunLtbChi(s, M); }
+
+}  // namespace
+
+bool DoubleSymmetricLtbFamily(int type) {
+  return (type >= 1 && type <= 5) || type == 15 || type == 16 || type == 21 || type == 28 ||
+         (type >= 101 && type <= 103) || type == 41;
+}
+
 // The resistance the LT ratio divides by: the family's, or for the single symmetric and plate
 // families that of the flange in compression under the moment's sign.
-double LtbResistance(const State& s, double M) {
+double LtbResistanceOf(const State& s, double M) {
   const int type = s.project.ProfileType;
   if (type == 22 || PlateFamily(type)) return M > 0 ? s.checks.MyRdBuckPos : s.checks.MyRdBuckNeg;
   return s.section.MyRdBuck;
@@ -78,7 +85,7 @@ double LtbResistance(const State& s, double M) {
 // Channels, flat bars and plates have only the general curve: the rolled curve is not offered for
 // them, so they take the general one whether or not the dialog has been opened since the family
 // was chosen. Otherwise a channel would inherit the reduction factor of the previous section.
-void RunChi(State& s, double M) {
+void RunLtbChi(State& s, double M) {
   const int type = s.project.ProfileType;
   const bool generalOnly = type == 5 || type == 16 || type == 28 || type == 103 || (type >= 51 && type <= 56);
   if (s.project.ltbCurve == 2 || generalOnly)
@@ -87,7 +94,28 @@ void RunChi(State& s, double M) {
     ChiRolled(s, M);
 }
 
-}  // namespace
+double LtbLoadHeight(const State& s) {
+  const Project& p = s.project;
+  const Section& c = s.section;
+  const Checks& k = s.checks;
+  const int type = p.ProfileType;
+  if (type == 41) return 0;  // the general section knows no flanges: the load acts at its centre
+  if (type == 22) {
+    double Za = 0;
+    switch (p.ltbLoadLevel) {
+      case 1: Za = static_cast<double>(c.h) - k.ezb; break;
+      case 3: Za = -k.ezb; break;
+      case 4: Za = p.ltbZa; break;
+    }
+    return Za - k.zs;
+  }
+  switch (p.ltbLoadLevel) {
+    case 1: return c.h / 2.0;
+    case 3: return -c.h / 2.0;
+    case 4: return p.ltbZa;
+  }
+  return 0;
+}
 
 // ---- The tables ----
 
@@ -233,28 +261,13 @@ void CFactorsFromLoad(State& s) {
 
 void CriticalMoment(State& s) {
   Project& p = s.project;
-  const Section& c = s.section;
   Checks& k = s.checks;
   const int type = p.ProfileType;
-  double zg = 0;
-  if (type == 22) {
-    double Za = 0;
-    switch (p.ltbLoadLevel) {
-      case 1: Za = static_cast<double>(c.h) - k.ezb; break;
-      case 3: Za = -k.ezb; break;
-      case 4: Za = p.ltbZa; break;
-    }
-    zg = Za - k.zs;
-  } else if (type == 41) {
+  const double zg = LtbLoadHeight(s);
+  if (type == 41) {
     // The general section knows no flanges: the load acts at the shear centre.
     p.ltbZa = 0;
     p.ltbLoadLevel = 2;
-  } else {
-    switch (p.ltbLoadLevel) {
-      case 1: zg = c.h / 2.0; break;
-      case 3: zg = -c.h / 2.0; break;
-      case 4: zg = p.ltbZa; break;
-    }
   }
   k.LTlength = static_cast<double>(p.ltbFactor) * p.L;
   const double LT = 1000 * k.LTlength;
@@ -343,7 +356,9 @@ void ChiGeneral(State& s, double M) {
   if (k.xLT > 1) k.xLT = 1;
 }
 
-void LateralTorsionalControl(State& s) {
+namespace {
+
+void LateralTorsionalFromTables(State& s) {
   Project& p = s.project;
   const Analysis& an = s.analysis;
   Checks& k = s.checks;
@@ -410,6 +425,19 @@ void LateralTorsionalControl(State& s) {
   k.XLt = keptXLt;
   k.fLT = keptFLT;
   k.ltbPartLabel.at(static_cast<size_t>(p.ltbPart)) = PartLabel(p.ltbPart, n, s.decimalComma);
+}
+
+}  // namespace
+
+void LateralTorsionalControl(State& s) {
+  Checks& k = s.checks;
+  k.McrByEigen = False;
+  k.McrFactor = std::numeric_limits<double>::quiet_NaN();
+  k.McrNote.clear();
+  // The tables run in either case: they give C1 and kc, and stand in where the eigenvalue analysis
+  // finds no Mcr.
+  LateralTorsionalFromTables(s);
+  if (s.project.ltbMcrMethod == 1) EigenCriticalMoment(s);
 }
 
 void CriticalMoment0(State& s) {

@@ -94,6 +94,17 @@ void RefreshLtbDialog(State& s) {
   v.text[Key("C3")] = "C3 = " + FormatNumber(k.C3, "0.000", dc);
   v.text[Key("Mcr")] = "Mcr = " + FormatNumber(k.Mcr / 1000000, "0.000", dc) + " kNm";
   v.text[Key("MdRb")] = "Md,Rb = " + FormatNumber(k.xLT * k.MyRdLT, "0.0", dc) + " kNm";
+
+  // Where Mcr comes from, and on the eigenvalue analysis what it found.
+  const bool eigen = p.ltbMcrMethod == 1;
+  v.value[Key("McrTables")] = eigen ? 0 : 1;
+  v.value[Key("McrEigen")] = eigen ? 1 : 0;
+  std::string method;
+  if (eigen && k.McrByEigen != 0)
+    method = "Critical factor on My,Ed = " + FormatNumber(k.McrFactor, "0.000", dc);
+  else if (eigen && !k.McrNote.empty())
+    method = "Mcr from C factors: " + k.McrNote;
+  v.text[Key("McrMethod")] = method;
 }
 
 void RegisterBucklingControls(ControlTable& t) {
@@ -163,6 +174,13 @@ void RegisterBucklingControls(ControlTable& t) {
     }
     return Changed(s);
   });
+  // Mcr from the C factor tables (the default) or by the eigenvalue analysis of the member.
+  for (int method : {0, 1}) {
+    AddControl(t, kForm, method == 1 ? "McrEigen" : "McrTables", [method](State& s, int, std::string_view) {
+      s.project.ltbMcrMethod = static_cast<Integer>(method);
+      return Changed(s);
+    });
+  }
   AddControl(t, kForm, "C1factor", [](State& s, int, std::string_view text) {
     s.project.ltbUserC1 = ToBoolean(ChoiceIndex(text) == 1);
     return Changed(s);

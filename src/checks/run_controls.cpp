@@ -130,6 +130,9 @@ void RunFamilyControls(State& s) {
   k.C1 = 0;
   k.C2 = 0;
   k.C3 = 0;
+  k.McrByEigen = False;
+  k.McrFactor = 0;
+  k.McrNote.clear();
 
   // 2.
   const int type = s.project.ProfileType;

@@ -191,6 +191,7 @@ void VisitProject(V& v, P& p) {
   VN_F(p, ltbC1);
   VN_F(p, ltbC2);
   VN_F(p, ltbC3);
+  VN_F(p, ltbMcrMethod);
   VN_F(p, AnalysisMode);
   VN_F(p, chModal);
   VN_F(p, checkSLS);
@@ -555,6 +556,9 @@ void VisitChecks(V& v, C& c) {
   VN_F(c, xLT);
   VN_F(c, kc);
   VN_F(c, fLT);
+  VN_F(c, McrByEigen);
+  VN_F(c, McrFactor);
+  VN_F(c, McrNote);
   VN_F(c, Ncry);
   VN_F(c, lamday);
   VN_F(c, chiy);

@@ -66,6 +66,12 @@ struct Plate55Input {  // family 55: a plate family with no dialog, kept in the 
   Number v5 = 0, v6 = 0;
 };
 
+// The two methods of the elastic critical moment as the dialog `vipping` names them; the project file
+// keeps the second as a mark after its last value (kMcrEigenMark), and a file without it takes the first.
+inline constexpr const char* kMcrTablesText = "Mcr from C factors";
+inline constexpr const char* kMcrEigenText = "Mcr by eigenvalue analysis";
+inline constexpr const char* kMcrEigenMark = kMcrEigenText;
+
 struct Project {
   // Identification
   std::string fileName;
@@ -138,6 +144,9 @@ struct Project {
   Integer ltbLoadLevel = 0;
   Number ltbZa = 0;
   Number ltbC1 = 0, ltbC2 = 0, ltbC3 = 0;
+  // Where Mcr comes from: 0 "Mcr from C factors" (the tables, the default), 1 "Mcr by eigenvalue
+  // analysis" of the member (options `McrTables`, `McrEigen` of the dialog `vipping`).
+  Integer ltbMcrMethod = 0;
 
   // Analysis switches
   Integer AnalysisMode = 0;

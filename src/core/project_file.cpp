@@ -455,6 +455,8 @@ std::string ProjectFileText(State& s) {
   // reader that stops at the last value never sees them, and a project in the default rules is
   // written exactly as before.
   if (s.project.strictRules != 0) io.Str(kStrictRulesMark);
+  // The method of Mcr likewise: after the rules, and only when it is the eigenvalue analysis.
+  if (s.project.ltbMcrMethod == 1) io.Str(kMcrEigenMark);
   return io.w.Text();
 }
 
@@ -476,12 +478,18 @@ FileResult ReadProjectText(State& s, const std::string& text) {
     // text that begins with any other number is no project, however many values follow.
     if (version < 1 || version > kProjectVersion) return FileResult::OtherError;
     WalkProject(io, s, version);
-    // A file without the mark, or with anything else there, is in the default rules.
+    // A file without the marks, or with anything else there, is in the default rules and takes Mcr
+    // from the C factors. Each mark stands at most once, the rules' first.
     s.project.strictRules = False;
+    s.project.ltbMcrMethod = 0;
     try {
-      bool quoted = false;
-      const std::string mark = reader.Token(&quoted);
-      if (quoted && mark == kStrictRulesMark) s.project.strictRules = True;
+      for (int i = 0; i < 2; ++i) {
+        bool quoted = false;
+        const std::string mark = reader.Token(&quoted);
+        if (!quoted) break;
+        if (i == 0 && mark == kStrictRulesMark) s.project.strictRules = True;
+        if (mark == kMcrEigenMark) s.project.ltbMcrMethod = 1;
+      }
     } catch (const PastEndError&) {
     }
   } catch (const PastEndError&) {

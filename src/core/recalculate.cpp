@@ -192,6 +192,7 @@ void NewProject(State& s) {
   p.ltbC1 = 1;
   p.ltbC2 = 1;
   p.ltbC3 = 1;
+  p.ltbMcrMethod = 0;
 
   p.AnalysisMode = 1;
   p.chModal = 0;

@@ -823,7 +823,18 @@ FormDialog* LtbDialog(Session* s, QWidget* owner) {
   cg->addWidget(only, 8, 0, 1, 3);
   cg->setColumnStretch(2, 1);
   main->addWidget(capacity, 0, 1, 4, 1);
-  main->addLayout(Foot({}, d->closeButton()), 4, 0, 1, 2);
+
+  // Where Mcr comes from: the C factor tables above, or the eigenvalue analysis of the member with
+  // its moment diagram, load height, supports, k and restraints; what that found stands beside.
+  auto* method = Group("Elastic critical moment Mcr");
+  auto* ml = Inside<QHBoxLayout>(method);
+  ml->addWidget(Option(d, "McrTables", kMcrTablesText));
+  ml->addWidget(Option(d, "McrEigen", kMcrEigenText));
+  ml->addSpacing(12);
+  ml->addWidget(Shown(d, "McrMethod"));
+  ml->addStretch();
+  main->addWidget(method, 4, 0, 1, 2);
+  main->addLayout(Foot({}, d->closeButton()), 5, 0, 1, 2);
   return d;
 }
 

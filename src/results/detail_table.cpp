@@ -107,6 +107,17 @@ DetailTable MakeDetailTable(const State& s) {
   w.Value(" Az", s.section.Avz, "#0 ", " mm2");
   w.Value(" Ay", s.section.Avy, "#0 ", " mm2");
   w.Head(" Other");
+  // The method of Mcr, where the eigenvalue analysis was chosen and the LT control ran.
+  if (s.project.ltbMcrMethod == 1 && !std::isnan(c.Mcr)) {
+    if (c.McrByEigen != 0) {
+      w.Text(" Mcr method", "eigenvalue analysis");
+      w.Value(" Mcr factor", c.McrFactor, "#0.000", "", " Mcr / max|My,Ed|");
+    } else {
+      DetailRow& r = t.rows[static_cast<size_t>(w.row)];
+      w.Text(" Mcr method", "C factors");
+      r[3] = " eigenvalue analysis: " + c.McrNote;
+    }
+  }
   return t;
 }
 

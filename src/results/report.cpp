@@ -3,10 +3,9 @@
 // and lateral buckling parameters and the summary of controls.
 #include "results/report.h"
 
-#include <cmath>
-
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <sstream>
 
 #include "core/format.h"
@@ -389,6 +388,11 @@ void LateralParameters(Page& pg) {
                           : "Lateral torsional buckling curves: Rolled or welded I-sections (ch 6.3.2.3)");
   // The closed formula for C1 replaces the tables only for the load shape, and only under a moment.
   if (p.ltbUserC1 != 0 && loadShape && !plate && s.analysis.MyAbs != 0) pg.Text("Advanced calculation of C1");
+  // Mcr by eigenvalue analysis, where it was chosen: the value and where it came from.
+  if (p.ltbMcrMethod == 1 && !std::isnan(k.Mcr))
+    pg.Row("Mcr = ", pg.F(k.Mcr / 1000000, "#0.0"),
+           k.McrByEigen != 0 ? " kNm  (Mcr by eigenvalue analysis of the member)"
+                             : " kNm  (Mcr from C factors: " + k.McrNote + ")");
   pg.Blank();
 }
 

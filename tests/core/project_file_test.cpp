@@ -241,6 +241,34 @@ TEST_F(ProjectFile, TheStrictRulesFollowTheLastValueAndAnythingElseReadsAsTheDef
   }
 }
 
+// The method of Mcr likewise: the eigenvalue analysis is a mark after the rules' mark (if any); a
+// file without it, an older one among them, takes Mcr from the C factors.
+TEST_F(ProjectFile, TheEigenvalueMethodOfMcrIsAMarkAfterTheRules) {
+  const std::string plain = ProjectFileText(s_);
+  s_.project.ltbMcrMethod = 1;
+  EXPECT_EQ(ProjectFileText(s_), plain + "\"Mcr by eigenvalue analysis\"\r\n");
+  s_.project.strictRules = True;
+  EXPECT_EQ(ProjectFileText(s_), plain + "\"EN 1993 strict\"\r\n\"Mcr by eigenvalue analysis\"\r\n");
+  const struct {
+    const char* text;
+    Boolean strict;
+    Integer method;
+  } files[] = {{"", False, 0},
+               {"\"Mcr by eigenvalue analysis\"\r\n", False, 1},
+               {"\"EN 1993 strict\"\r\n\"Mcr by eigenvalue analysis\"\r\n", True, 1},
+               {"\"EN 1993 strict\"\r\n", True, 0},
+               {"\"Mcr by eigenvalue\"\r\n", False, 0},
+               {"1\r\n\"Mcr by eigenvalue analysis\"\r\n", False, 0}};
+  for (const auto& f : files) {
+    folder_.Write("m.vnt", plain + f.text);
+    State t = Fresh();
+    t.project.ltbMcrMethod = f.method == 1 ? 0 : 1;  // the file decides, not the record
+    ASSERT_EQ(ReadProject(t, Path("m.vnt")), FileResult::Ok) << f.text;
+    EXPECT_EQ(t.project.strictRules, f.strict) << f.text;
+    EXPECT_EQ(t.project.ltbMcrMethod, f.method) << f.text;
+  }
+}
+
 TEST_F(ProjectFile, Version118AddsOneToTheCombinationMode) {
   s_.project.LoadCombMode = 0;
   std::string text = ProjectFileText(s_);
