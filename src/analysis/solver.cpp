@@ -8,6 +8,8 @@
 // 2), 4 cantilever fixed at x = 0, 5 pinned-spring (a mix of 0 and 1).
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <optional>
 
 #include "analysis/analysis.h"
@@ -263,6 +265,14 @@ void Route(const State& s, UnitSet<N>& set, int slot, bool toY) {
   dst.Mc = src.Mc;
   dst.Vc = src.Vc;
   for (int k = 0; k <= 50; ++k) dst.d[k] = ToSingle(Div(src.d[k], I));
+  // The column the slot does not act in is +0 throughout, and so may be the other one.
+  (toY ? set.z[slot] : set.y[slot]).allZero = true;
+  std::uint32_t bits = 0;
+  for (const auto* a : {&dst.M, &dst.V, &dst.d})
+    for (Single v : *a) bits |= std::bit_cast<std::uint32_t>(v);
+  for (const auto* a : {&dst.Mc, &dst.Vc})
+    for (Single v : *a) bits |= std::bit_cast<std::uint32_t>(v);
+  dst.allZero = bits == 0;
 }
 
 // The uniform load has no constants of its own: its solution is worked out at each point.
