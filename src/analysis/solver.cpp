@@ -9,7 +9,9 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 
 #include "analysis/analysis.h"
@@ -174,14 +176,74 @@ void CheckSlot(int slot, int first, int last) {
   if (slot < first || slot > last) Fault("subscript out of range");
 }
 
+// The stations of a load at the points xs[0..n), as At gives them one by one; a load may work them
+// out together (the strips of a trapezoid).
+template <class Load>
+void StationsAt(const Load& load, const double* xs, size_t n, bool checkGrid, Station* out) {
+  if constexpr (requires { load.AtAll(xs, n, checkGrid, out); })
+    load.AtAll(xs, n, checkGrid, out);
+  else
+    for (size_t i = 0; i < n; ++i) out[i] = load.At(xs[i], checkGrid);
+}
+
+// Values of one point, stored as Single. Checked: as the program stores them, a value that is not
+// a number or beyond a Single's range, or a zero divisor, faults. Unchecked: the same values, each
+// such case marked in `bad` instead.
+struct Values {
+  Single M, V, d;
+};
+
+struct Checked {
+  static Single Store(double a) { return ToSingle(a); }
+  static double Divide(double a, double b) { return Div(a, b); }
+};
+
+struct Unchecked {
+  int& bad;
+  Single Store(double a) const {
+    bad |= !(std::fabs(a) <= static_cast<double>(std::numeric_limits<float>::max()));
+    return static_cast<Single>(a);
+  }
+  double Divide(double a, double b) const {
+    bad |= b == 0.0;
+    const double q = a / b;
+    bad |= !std::isfinite(q);
+    return q;
+  }
+};
+
+// The values at a point from the station of the first basic type (A) and, for a spring type, of the
+// second (B). Spring types mix their two solutions, held as Single, by r = SpringPct / 100;
+// `exception` is the point moment on type 5, whose shear left of the load takes the mixed value
+// once more as its second term.
+template <class Check>
+Values PointValues(const Check& c, const Station& A, const Station* B, double r, double dScale, double x,
+                   double a, bool checkGrid, bool exception) {
+  if (!B) return Values{c.Store(A.M), c.Store(A.V), checkGrid ? 0.0f : c.Store(c.Divide(A.d, dScale))};
+  const Single M0 = c.Store(A.M), M1 = c.Store(B->M);
+  const Single V0 = c.Store(A.V), V1 = c.Store(B->V);
+  Values v;
+  v.M = c.Store((1 - r) * M0 + r * M1);
+  v.V = c.Store((1 - r) * V0 + r * V1);
+  if (exception && x < a) v.V = c.Store((1 - r) * V0 + r * v.V);
+  v.d = 0;
+  if (!checkGrid) {
+    const Single d0 = c.Store(c.Divide(A.d, dScale)), d1 = c.Store(c.Divide(B->d, dScale));
+    v.d = c.Store((1 - r) * d0 + r * d1);
+  }
+  return v;
+}
+
 // Fills a column. load(basicType) gives the load's solution for one basic support type, with its
 // constants worked out (a zero divisor there faults as at the first point); its At(x, checkGrid) is
-// the station at x. Spring types mix their two solutions, held as Single, by r = SpringPct / 100.
-// momentShearException: the point moment on type 5, whose shear left of the load takes the mixed
-// value once more as its second term (k >= 1 on Grid51, every such check point).
+// the station at x. momentShearException: the point moment on type 5 (see PointValues), for k >= 1
+// on Grid51 and every check point.
 // sameEverywhere: the caller knows that the solution is zero at every point (a trapezoid whose
 // strips carry nothing, summed from +0), so every point gives the values of x = 0, which is worked
 // out as ever; the column is then filled from it.
+// The stations of all points are worked out first and the values stored unchecked; only when one
+// of them would have faulted is the column made again point by point, checked, so that the fault
+// comes at the same point as ever with the points before it filled.
 template <class MakeLoad>
 void FillColumn(const State& s, UnitColumn& col, MakeLoad load, bool momentShearException, double a,
                 bool sameEverywhere = false) {
@@ -197,60 +259,82 @@ void FillColumn(const State& s, UnitColumn& col, MakeLoad load, bool momentShear
   std::optional<decltype(A0)> B1;
   if (t1 >= 0) B1.emplace(load(t1));
 
-  struct Values {
-    Single M, V, d;
-  };
+  // Point by point, checked: the way the column has always been made.
   auto at = [&](double x, bool checkGrid, bool exception) {
     const Station A = A0.At(x, checkGrid);
-    if (t1 < 0) {
-      return Values{ToSingle(A.M), ToSingle(A.V), checkGrid ? 0.0f : ToSingle(Div(A.d, dScale))};
-    }
+    if (!B1) return PointValues(Checked{}, A, nullptr, r, dScale, x, a, checkGrid, exception);
     const Station B = B1->At(x, checkGrid);
-    const Single M0 = ToSingle(A.M), M1 = ToSingle(B.M);
-    const Single V0 = ToSingle(A.V), V1 = ToSingle(B.V);
-    Values v;
-    v.M = ToSingle((1 - r) * M0 + r * M1);
-    v.V = ToSingle((1 - r) * V0 + r * V1);
-    if (exception && x < a) v.V = ToSingle((1 - r) * V0 + r * v.V);
-    v.d = 0;
-    if (!checkGrid) {
-      const Single d0 = ToSingle(Div(A.d, dScale)), d1 = ToSingle(Div(B.d, dScale));
-      v.d = ToSingle((1 - r) * d0 + r * d1);
-    }
-    return v;
+    return PointValues(Checked{}, A, &B, r, dScale, x, a, checkGrid, exception);
   };
-
-  Values same{};
-  if (sameEverywhere) {
-    same = at(0.0, false, false);
-    col.M.fill(same.M);
-    col.V.fill(same.V);
-    col.d.fill(same.d);
-    // No deflection at a support: both ends but the free end of the cantilever.
-    col.d[0] = 0;
-    if (p.SupportType != 4) col.d[50] = 0;
-  } else {
+  auto byPoint = [&] {
+    col = UnitColumn{};
     for (int k = 0; k <= 50; ++k) {
       const double x = k == 0 ? 0.0 : k == 50 ? L : k / 50.0 * L;
       Values v = at(x, false, momentShearException && k >= 1);
+      // No deflection at a support: both ends but the free end of the cantilever.
       if (k == 0 || (k == 50 && p.SupportType != 4)) v.d = 0;
       col.M[k] = v.M;
       col.V[k] = v.V;
       col.d[k] = v.d;
     }
-  }
-  if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
-  for (int i = 0; i <= an.NPoints; ++i) {
-    if (sameEverywhere) {
-      col.Mc[i] = same.M;
-      col.Vc[i] = same.V;
-      continue;
+    if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
+    for (int i = 0; i <= an.NPoints; ++i) {
+      const double x = static_cast<double>(an.ChPointXrel[i]) * L;
+      const Values v = at(x, true, momentShearException);
+      col.Mc[i] = v.M;
+      col.Vc[i] = v.V;
     }
-    const double x = static_cast<double>(an.ChPointXrel[i]) * L;
-    const Values v = at(x, true, momentShearException);
+  };
+
+  if (sameEverywhere) {
+    const Values v = at(0.0, false, false);
+    col.M.fill(v.M);
+    col.V.fill(v.V);
+    col.d.fill(v.d);
+    col.d[0] = 0;
+    if (p.SupportType != 4) col.d[50] = 0;
+    if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
+    for (int i = 0; i <= an.NPoints; ++i) {
+      col.Mc[i] = v.M;
+      col.Vc[i] = v.V;
+    }
+    return;
+  }
+  if (an.NPoints < 0 || an.NPoints > 40) {
+    byPoint();  // faults once Grid51 is filled
+    return;
+  }
+
+  const size_t nc = static_cast<size_t>(an.NPoints) + 1;
+  std::array<double, 51> xg;
+  std::array<double, 41> xc;
+  for (int k = 0; k <= 50; ++k) xg[static_cast<size_t>(k)] = k == 0 ? 0.0 : k == 50 ? L : k / 50.0 * L;
+  for (size_t i = 0; i < nc; ++i) xc[i] = static_cast<double>(an.ChPointXrel[i]) * L;
+  std::array<Station, 51> Ag, Bg;
+  std::array<Station, 41> Ac, Bc;
+  StationsAt(A0, xg.data(), 51, false, Ag.data());
+  StationsAt(A0, xc.data(), nc, true, Ac.data());
+  if (B1) {
+    StationsAt(*B1, xg.data(), 51, false, Bg.data());
+    StationsAt(*B1, xc.data(), nc, true, Bc.data());
+  }
+  int bad = 0;
+  const Unchecked unchecked{bad};
+  for (size_t k = 0; k <= 50; ++k) {
+    Values v = PointValues(unchecked, Ag[k], B1 ? &Bg[k] : nullptr, r, dScale, xg[k], a, false,
+                           momentShearException && k >= 1);
+    if (k == 0 || (k == 50 && p.SupportType != 4)) v.d = 0;
+    col.M[k] = v.M;
+    col.V[k] = v.V;
+    col.d[k] = v.d;
+  }
+  for (size_t i = 0; i < nc; ++i) {
+    const Values v =
+        PointValues(unchecked, Ac[i], B1 ? &Bc[i] : nullptr, r, dScale, xc[i], a, true, momentShearException);
     col.Mc[i] = v.M;
     col.Vc[i] = v.V;
   }
+  if (bad) byPoint();
 }
 
 template <size_t N>
@@ -283,6 +367,8 @@ struct UniformLoadAt {
 };
 
 // The 20 strips of a trapezoid, each a point force, summed at each point from the first strip on.
+// At many points the strips are taken one after the other over all points, each point's sums
+// still growing from the first strip to the last.
 struct StripLoads {
   std::array<std::optional<ForceLoad>, 21> strip;
   Station At(double x, bool) const {
@@ -294,6 +380,49 @@ struct StripLoads {
       sum.d += st.d;
     }
     return sum;
+  }
+  void AtAll(const double* xs, size_t n, bool, Station* out) const {
+    // The sums by kind, so that a strip is taken at several points at once: both branches of a
+    // point are worked out and the one of its side kept, each by the operations of ForceLoad::At.
+    // (The file is compiled without floating-point traps, which lets the compiler work out what a
+    // point does not keep; the values are the same.)
+    std::array<double, 51> M{}, V{}, d{};
+    for (int j = 1; j <= 20; ++j) {
+      const ForceLoad& f = *strip[static_cast<size_t>(j)];
+      const double L = f.L, P = f.P, a = f.a, R = f.R, M0 = f.M0, ML = f.ML, C1 = f.C1;
+      if (f.t == 4) {
+        for (size_t i = 0; i < n; ++i) {
+          const double x = xs[i];
+          const bool left = x <= a;
+          const double Ml = -P * (a - x);
+          const double dl = P * x * x * (3 * a - x) / 6, dr = P * a * a * (3 * x - a) / 6;
+          V[i] += left ? -P : 0.0;
+          M[i] += left ? Ml : 0.0;
+          d[i] += left ? dl : dr;
+        }
+        continue;
+      }
+      auto strip = [&](auto leftOf) {
+        for (size_t i = 0; i < n; ++i) {
+          const double x = xs[i];
+          const bool left = leftOf(x);
+          const double Ml = M0 + R * x, Mr = ML - (R - P) * (L - x);
+          const double xa = x - a;
+          const double xm = xa < 0.0 ? 0.0 : xa;  // std::max(x - a, 0.0)
+          const double di = C1 * x - M0 * x * x / 2 - R * x * x * x / 6 + P * xm * xm * xm / 6;
+          const double Vr = R - P;
+          V[i] += left ? R : Vr;
+          M[i] += left ? Ml : Mr;
+          d[i] += di;
+        }
+      };
+      // Fixed-fixed: a point at the load takes the left branch; the others the right one.
+      if (f.t == 2)
+        strip([a](double x) { return x <= a; });
+      else
+        strip([a](double x) { return x < a; });
+    }
+    for (size_t i = 0; i < n; ++i) out[i] = Station{M[i], V[i], d[i]};
   }
 };
 
