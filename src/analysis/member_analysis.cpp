@@ -76,14 +76,20 @@ Factors FactorsOf(const State& s, CombForm form) {
   return f;
 }
 
-// a + F t into a Single, as ToSingle would store it; `bad` is set where ToSingle would fault and
-// `negativeZero` where the Single is -0.
-inline Single SumOf(Single a, double F, Single t, int& bad, int& negativeZero) {
-  const double sum = a + F * t;
-  bad |= !(std::fabs(sum) <= static_cast<double>(std::numeric_limits<float>::max()));
-  const Single stored = static_cast<Single>(sum);
-  negativeZero |= std::bit_cast<std::uint32_t>(stored) == 0x80000000u;
-  return stored;
+// out[k] = a[k] + F t[k] into Singles. `bad` is set where ToSingle might fault: a Single that is
+// infinite, not a number, or the largest Single (a sum just beyond it rounds to it, and ToSingle
+// refuses that); the sums are then made again one by one, checked. `negativeZero` is set where a
+// Single is -0. The loops hold no branch, so the compiler works out several points at once.
+void SumInto(Single* out, const Single* a, double F, const Single* t, size_t n, int& bad, int& negativeZero) {
+  for (size_t k = 0; k < n; ++k) out[k] = static_cast<Single>(a[k] + F * t[k]);
+  std::uint32_t large = 0, minusZero = 0;
+  for (size_t k = 0; k < n; ++k) {
+    const std::uint32_t bits = std::bit_cast<std::uint32_t>(out[k]);
+    large |= (bits & 0x7fffffffu) >= 0x7f7fffffu;
+    minusZero |= bits == 0x80000000u;
+  }
+  bad |= static_cast<int>(large);
+  negativeZero |= static_cast<int>(minusZero);
 }
 
 // Adds one routed slot with its factors to the diagrams and the check points, point by point,
@@ -115,15 +121,12 @@ void SumDirection(const std::array<Single, 51>& M, const std::array<Single, 51>&
                   const std::array<Single, 51>& d, const std::array<Single, 41>& Mc,
                   const std::array<Single, 41>& Vc, const UnitColumn& col, double F, double S, int points,
                   DirectionSums& out, int& bad, int& negativeZero) {
-  for (size_t k = 0; k <= 50; ++k) {
-    out.M[k] = SumOf(M[k], F, col.M[k], bad, negativeZero);
-    out.V[k] = SumOf(V[k], F, col.V[k], bad, negativeZero);
-    out.d[k] = SumOf(d[k], S, col.d[k], bad, negativeZero);
-  }
-  for (size_t i = 0; i < static_cast<size_t>(points); ++i) {
-    out.Mc[i] = SumOf(Mc[i], F, col.Mc[i], bad, negativeZero);
-    out.Vc[i] = SumOf(Vc[i], F, col.Vc[i], bad, negativeZero);
-  }
+  const size_t n = static_cast<size_t>(points);
+  SumInto(out.M.data(), M.data(), F, col.M.data(), 51, bad, negativeZero);
+  SumInto(out.V.data(), V.data(), F, col.V.data(), 51, bad, negativeZero);
+  SumInto(out.d.data(), d.data(), S, col.d.data(), 51, bad, negativeZero);
+  SumInto(out.Mc.data(), Mc.data(), F, col.Mc.data(), n, bad, negativeZero);
+  SumInto(out.Vc.data(), Vc.data(), F, col.Vc.data(), n, bad, negativeZero);
 }
 
 // Adds one routed slot. The sums are made for all points into working copies and checked together;
