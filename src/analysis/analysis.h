@@ -37,6 +37,9 @@ struct FivePoints {
 struct UnitColumn {
   std::array<Single, 51> M{}, V{}, d{};  // Grid51: kNm, kN, deflection (numerator, then mm)
   std::array<Single, 41> Mc{}, Vc{};     // check grid: kNm, kN
+  // Every entry is +0: set by the routing (the direction a slot does not act in, a slot that
+  // carries nothing), which the combination then passes over. False means not known.
+  bool allZero = false;
 };
 
 // The solutions of one load kind: as solved, routed to Z (My, Vz, dz), routed to Y (Mz, Vy, dy).

@@ -2,7 +2,12 @@
 // combination, extremes. Closed-form superposition of linear solutions; no second-order effect.
 #include "analysis/member_analysis.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -71,8 +76,25 @@ Factors FactorsOf(const State& s, CombForm form) {
   return f;
 }
 
-// Adds one routed slot with its factors to the diagrams and the check points.
-void AddSlot(Analysis& an, const UnitColumn& z, const UnitColumn& y, double F, double S) {
+// out[k] = a[k] + F t[k] into Singles. `bad` is set where ToSingle might fault: a Single that is
+// infinite, not a number, or the largest Single (a sum just beyond it rounds to it, and ToSingle
+// refuses that); the sums are then made again one by one, checked. `negativeZero` is set where a
+// Single is -0. The loops hold no branch, so the compiler works out several points at once.
+void SumInto(Single* out, const Single* a, double F, const Single* t, size_t n, int& bad, int& negativeZero) {
+  for (size_t k = 0; k < n; ++k) out[k] = static_cast<Single>(a[k] + F * t[k]);
+  std::uint32_t large = 0, minusZero = 0;
+  for (size_t k = 0; k < n; ++k) {
+    const std::uint32_t bits = std::bit_cast<std::uint32_t>(out[k]);
+    large |= (bits & 0x7fffffffu) >= 0x7f7fffffu;
+    minusZero |= bits == 0x80000000u;
+  }
+  bad |= static_cast<int>(large);
+  negativeZero |= static_cast<int>(minusZero);
+}
+
+// Adds one routed slot with its factors to the diagrams and the check points, point by point,
+// each sum checked as it is stored.
+void AddSlotByPoint(Analysis& an, const UnitColumn& z, const UnitColumn& y, double F, double S) {
   for (int k = 0; k <= 50; ++k) {
     an.MyGrid[k] = ToSingle(an.MyGrid[k] + F * z.M[k]);
     an.VzGrid[k] = ToSingle(an.VzGrid[k] + F * z.V[k]);
@@ -86,6 +108,64 @@ void AddSlot(Analysis& an, const UnitColumn& z, const UnitColumn& y, double F, d
     an.VzPt[i] = ToSingle(an.VzPt[i] + F * z.Vc[i]);
     an.MzPt[i] = ToSingle(an.MzPt[i] + F * y.Mc[i]);
     an.VyPt[i] = ToSingle(an.VyPt[i] + F * y.Vc[i]);
+  }
+}
+
+// The sums of one direction (My, Vz, dz from z; Mz, Vy, dy from y) into working copies.
+struct DirectionSums {
+  std::array<Single, 51> M, V, d;
+  std::array<Single, 41> Mc, Vc;
+};
+
+void SumDirection(const std::array<Single, 51>& M, const std::array<Single, 51>& V,
+                  const std::array<Single, 51>& d, const std::array<Single, 41>& Mc,
+                  const std::array<Single, 41>& Vc, const UnitColumn& col, double F, double S, int points,
+                  DirectionSums& out, int& bad, int& negativeZero) {
+  const size_t n = static_cast<size_t>(points);
+  SumInto(out.M.data(), M.data(), F, col.M.data(), 51, bad, negativeZero);
+  SumInto(out.V.data(), V.data(), F, col.V.data(), 51, bad, negativeZero);
+  SumInto(out.d.data(), d.data(), S, col.d.data(), 51, bad, negativeZero);
+  SumInto(out.Mc.data(), Mc.data(), F, col.Mc.data(), n, bad, negativeZero);
+  SumInto(out.Vc.data(), Vc.data(), F, col.Vc.data(), n, bad, negativeZero);
+}
+
+// Adds one routed slot. The sums are made for all points into working copies and checked together;
+// they are kept only when every one is a storable Single. Otherwise the slot is added point by
+// point, so that the fault comes at the same sum as ever with the sums before it stored.
+// A column of +0 throughout adds nothing: F * (+0) is +0 or -0 for a finite factor, and x + (+-0)
+// is x for every x but -0, which is why the sums are watched for -0 (`negativeZero`, kept over the
+// slots of one combination) and a column is passed over only while none has been stored.
+void AddSlot(Analysis& an, const UnitColumn& z, const UnitColumn& y, double F, double S, int& negativeZero) {
+  const bool finite = std::isfinite(F) && std::isfinite(S);
+  const bool skipZ = finite && !negativeZero && z.allZero;
+  const bool skipY = finite && !negativeZero && y.allZero;
+  if (skipZ && skipY) return;
+  const int points = an.NPoints + 1;  // 1..41, checked by the caller
+  DirectionSums sz, sy;
+  int bad = 0, negative = negativeZero;
+  if (!skipZ)
+    SumDirection(an.MyGrid, an.VzGrid, an.dzGrid, an.MyPt, an.VzPt, z, F, S, points, sz, bad, negative);
+  if (!skipY)
+    SumDirection(an.MzGrid, an.VyGrid, an.dyGrid, an.MzPt, an.VyPt, y, F, S, points, sy, bad, negative);
+  if (bad) {
+    AddSlotByPoint(an, z, y, F, S);
+    return;
+  }
+  negativeZero = negative;
+  const size_t count = static_cast<size_t>(points);
+  if (!skipZ) {
+    an.MyGrid = sz.M;
+    an.VzGrid = sz.V;
+    an.dzGrid = sz.d;
+    std::copy_n(sz.Mc.begin(), count, an.MyPt.begin());
+    std::copy_n(sz.Vc.begin(), count, an.VzPt.begin());
+  }
+  if (!skipY) {
+    an.MzGrid = sy.M;
+    an.VyGrid = sy.V;
+    an.dyGrid = sy.d;
+    std::copy_n(sy.Mc.begin(), count, an.MzPt.begin());
+    std::copy_n(sy.Vc.begin(), count, an.VyPt.begin());
   }
 }
 
@@ -282,6 +362,7 @@ void CombineLoads(State& s, CombForm form) {
   an.NEd = 0;
   an.qTotal = 0;
 
+  int negativeZero = 0;  // a sum stored as -0 so far (the sums start at +0)
   const Factors f = FactorsOf(s, form);
   auto F = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.F[c]; };
   auto S = [&](int c, Boolean checked) { return f.basic ? (checked ? 1.0 : 0.0) : f.S[c]; };
@@ -299,22 +380,22 @@ void CombineLoads(State& s, CombForm form) {
     const UniformLoad& q = l.uniform[i];
     const int c = CaseOf(q.Case);
     an.qTotal += F(c, q.Checked) * q.q;
-    AddSlot(an, u.uniform.z[i], u.uniform.y[i], F(c, q.Checked), S(c, q.Checked));
+    AddSlot(an, u.uniform.z[i], u.uniform.y[i], F(c, q.Checked), S(c, q.Checked), negativeZero);
   }
   for (int i = 1; i <= 3; ++i) {
     const TrapezoidLoad& t = l.trapezoid[i];
     const int c = CaseOf(t.Case);
-    AddSlot(an, u.trapezoid.z[i], u.trapezoid.y[i], F(c, t.Checked), S(c, t.Checked));
+    AddSlot(an, u.trapezoid.z[i], u.trapezoid.y[i], F(c, t.Checked), S(c, t.Checked), negativeZero);
   }
   for (int i = 1; i <= 8; ++i) {
     const PointLoad& pl = l.point[i];
     const int c = CaseOf(pl.Case);
-    AddSlot(an, u.force.z[i], u.force.y[i], F(c, pl.Checked), S(c, pl.Checked));
+    AddSlot(an, u.force.z[i], u.force.y[i], F(c, pl.Checked), S(c, pl.Checked), negativeZero);
   }
   for (int i = 1; i <= 8; ++i) {
     const PointLoad& pl = l.point[i];
     const int c = CaseOf(pl.Case);
-    AddSlot(an, u.moment.z[i], u.moment.y[i], F(c, pl.Checked), S(c, pl.Checked));
+    AddSlot(an, u.moment.z[i], u.moment.y[i], F(c, pl.Checked), S(c, pl.Checked), negativeZero);
   }
 }
 

@@ -2,6 +2,7 @@
 // ratio against the limit, the limit text of a buckling line, and the four strings of one line.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -32,5 +33,27 @@ inline void Write(const State& s, ControlText& t, std::string formula, std::stri
   t.Ratio = F2(s, ratio);
   t.Limit = std::move(limit);
 }
+
+// The text of a group's line, made only for the candidate that keeps the group. A loop over the
+// check points hands each winner's line to Keep as a closure over its numbers, captured by value
+// as they stand at its point; Flush makes the strings of the last one, once, after the loop (and
+// before a fault leaves it, so that a failed run leaves the texts of the winners so far).
+class PendingLine {
+ public:
+  explicit PendingLine(ControlText& t) : t_(t) {}
+  template <class Make>
+  void Keep(Make make) {
+    make_ = std::move(make);
+  }
+  void Flush() {
+    if (!make_) return;
+    make_(t_);
+    make_ = nullptr;
+  }
+
+ private:
+  ControlText& t_;
+  std::function<void(ControlText&)> make_;
+};
 
 }  // namespace vn::text

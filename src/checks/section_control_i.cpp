@@ -35,6 +35,7 @@ using text::Colour;
 using text::F1;
 using text::F2;
 using text::Limit;
+using text::PendingLine;
 using text::Write;
 
 namespace {
@@ -232,178 +233,222 @@ void RunSectionControl(State& s, const SectionControlRules& rules) {
       Write(s, t1, "IR = NEd/NRd = ", F(NEd) + "/" + F(c.NcRd) + " = ", ir, axialLimit("Ch 6.2.4"));
   }
 
-  // 3. Every check point, in ascending order of its index.
+  // 3. Every check point, in ascending order of its index. A group's texts are those of the
+  // candidate that keeps it: each winner leaves its numbers (as they stand at its point) in the
+  // group's pending line, and the strings are made once, after the last point, or before a fault
+  // ends the loop.
+  PendingLine line1(t1), line2(t2), line3(t3);
+  auto flush = [&] {
+    line1.Flush();
+    line2.Flush();
+    line3.Flush();
+  };
   if (an.NPoints < 0 || an.NPoints > 40) Fault("subscript out of range");
-  for (int i = 0; i <= an.NPoints; ++i) {
-    const size_t ix = static_cast<size_t>(i);
-    const double x = an.ChPointXrel[ix];
-    // A family whose flanges differ keeps the sign of My for its classes and resistances; the
-    // ratios and texts take its magnitude.
-    k.MyEd = rules.signedMy ? an.MyPt[ix] : std::fabs(an.MyPt[ix]);
-    const double MySigned = k.MyEd;
-    k.MzEd = rules.aboutZ ? std::fabs(an.MzPt[ix]) : 0;
-    k.VyEd = rules.aboutZ ? std::fabs(an.VyPt[ix]) : 0;
-    k.VzEd = std::fabs(an.VzPt[ix]);
-    const double MyEd = std::fabs(k.MyEd), MzEd = k.MzEd, VyEd = k.VyEd, VzEd = k.VzEd;
-    const double classMy = !rules.signedMy ? c.classMy : MySigned > 0 ? c.classMyPos : c.classMyNeg;
-    // The plain texts of b to d hold below half the shear, the MV texts of e to g above it; a
-    // family without the reduction for shear always has the plain texts.
-    const bool red = rules.shearReduces;
-    const bool lowVz = !red || VzEd < 0.5 * c.VzRd, lowVy = !red || VyEd < 0.5 * c.VyRd;
-    const bool highVz = red && VzEd > 0.5 * c.VzRd, highVy = red && VyEd > 0.5 * c.VyRd;
-    auto E = [&s, &rules](double v) { return FormatNumber(v, rules.exponentFormat, s.decimalComma); };
+  try {
+    for (int i = 0; i <= an.NPoints; ++i) {
+      const size_t ix = static_cast<size_t>(i);
+      const double x = an.ChPointXrel[ix];
+      // A family whose flanges differ keeps the sign of My for its classes and resistances; the
+      // ratios and texts take its magnitude.
+      k.MyEd = rules.signedMy ? an.MyPt[ix] : std::fabs(an.MyPt[ix]);
+      const double MySigned = k.MyEd;
+      k.MzEd = rules.aboutZ ? std::fabs(an.MzPt[ix]) : 0;
+      k.VyEd = rules.aboutZ ? std::fabs(an.VyPt[ix]) : 0;
+      k.VzEd = std::fabs(an.VzPt[ix]);
+      const double MyEd = std::fabs(k.MyEd), MzEd = k.MzEd, VyEd = k.VyEd, VzEd = k.VzEd;
+      const double classMy = !rules.signedMy ? c.classMy : MySigned > 0 ? c.classMyPos : c.classMyNeg;
+      // The plain texts of b to d hold below half the shear, the MV texts of e to g above it; a
+      // family without the reduction for shear always has the plain texts.
+      const bool red = rules.shearReduces;
+      const bool lowVz = !red || VzEd < 0.5 * c.VzRd, lowVy = !red || VyEd < 0.5 * c.VyRd;
+      const bool highVz = red && VzEd > 0.5 * c.VzRd, highVy = red && VyEd > 0.5 * c.VyRd;
+      const char* const expFormat = rules.exponentFormat;
 
-    // b. My alone.
-    if (MyEd != 0) {
-      k.classCur = classMy;
-      rules.myRd(s);
-      const double ir = Div(MyEd, k.MyRd);
-      if (Compete(ir, IR1, col1, lim))
-        Write(s, t1,
-              lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ", F(MyEd) + "/" + F(k.MyRd) + " = ", ir,
-              PointLimit(s, x, lowVz ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
-    }
-
-    // c. Mz alone.
-    if (MzEd != 0) {
-      k.classCur = c.classMz;
-      rules.mzRd(s);
-      const double ir = Div(MzEd, k.MzRd);
-      if (Compete(ir, IR1, col1, lim))
-        Write(s, t1,
-              lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ", F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
-              PointLimit(s, x, lowVy ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
-    }
-
-    // d. Both moments without an axial force.
-    if (MyEd != 0 && MzEd != 0 && NEd == 0) {
-      k.classCur = classMy;
-      rules.myRd(s);
-      k.classCur = c.classMz;
-      rules.mzRd(s);
-      if (!conser && classMy <= 2 && c.classMz <= 2) {
-        const double ir = Pow(Div(MyEd, k.MyRd), k.alfa) + Pow(Div(MzEd, k.MzRd), k.betaN);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2,
-                std::string(lowVz ? "IR = [My,Ed/My,Rd]^alfa" : "IR = [My,Ed/MV,y,Rd]^alfa") +
-                    (lowVy ? " + [Mz,Ed/Mz,Rd]^beta = " : " + [Mz,Ed/MV,z,Rd]^beta = "),
-                "[" + F(MyEd) + "/" + F(k.MyRd) + "]^" + E(k.alfa) + "+" + "(" + F(MzEd) + "/" + F(k.MzRd) +
-                    ")^" + E(k.betaN) + " = ",
-                ir, PointLimit(s, x, "L; Ch 6.2.5/6.2.9)"));
-      } else {
-        const double ir = Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2,
-                std::string(lowVz ? "IR = My,Ed/My,Rd" : "IR = My,Ed/MV,y,Rd") +
-                    (lowVy ? " + Mz,Ed/Mz,Rd = " : " + Mz,Ed/MV,z,Rd = "),
-                F(MyEd) + "/" + F(k.MyRd) + " + " + F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
-                PointLimit(s, x, "L; Ch 6.2.1)"));
+      // b. My alone.
+      if (MyEd != 0) {
+        k.classCur = classMy;
+        rules.myRd(s);
+        const double ir = Div(MyEd, k.MyRd);
+        if (Compete(ir, IR1, col1, lim))
+          line1.Keep([&s, x, ir, lowVz, MyEd, MyRd = k.MyRd](ControlText& t) {
+            Write(s, t, lowVz ? "IR = My,Ed/My,Rd = " : "IR = My,Ed/MV,y,Rd = ",
+                  F1(s, MyEd) + "/" + F1(s, MyRd) + " = ", ir,
+                  PointLimit(s, x, lowVz ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
+          });
       }
-    }
 
-    // e. N and My.
-    if (NEd != 0 && MyEd != 0) {
-      k.classCur = rules.classY(s, NEd, MySigned);
-      const double classPair = k.classCur;
-      rules.myRd(s);
-      if (k.classCur <= 2 && !conser) {
-        rules.mnyRd(s);
-        // With 1 - n below zero the ratio is negative and loses: only group 1 shows the overload.
-        const double ir = Div(MyEd, k.MNyRd);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2, highVz ? "IR = My,Ed/MVN,y,Rd = " : "IR = My,Ed/MN,y,Rd = ",
-                F(MyEd) + "/" + F(k.MNyRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
-      } else {
-        // The resistance of the class of pure bending; with signed moments that of the pair stays.
-        if (!rules.signedMy) {
-          k.classCur = StrictClassOfPair(s, classMy, classPair);
-          rules.myRd(s);
-        }
-        const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2, highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd = " : "IR = NEd/NRd+My,Ed/My,Rd = ",
-                F(NEd) + "/" + F(k.NRd) + "+" + F(MyEd) + "/" + F(k.MyRd) + " = ", ir,
-                PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
-      }
-    }
-
-    // f. N and Mz.
-    if (NEd != 0 && MzEd != 0) {
-      k.classCur = rules.classZ(s, NEd, MzEd);
-      rules.mzRd(s);
-      if (k.classCur <= 2 && !conser) {
-        rules.mnzRd(s);
-        const double ir = Div(MzEd, k.MNzRd);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2, highVy ? "IR = Mz,Ed/MVN,z,Rd = " : "IR = Mz,Ed/MN,z,Rd = ",
-                F(MzEd) + "/" + F(k.MNzRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
-      } else {
+      // c. Mz alone.
+      if (MzEd != 0) {
         k.classCur = c.classMz;
         rules.mzRd(s);
-        const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MzEd, k.MzRd);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2, highVy ? "IR = NEd/NRd+Mz,Ed/MV,z,Rd = " : "IR = NEd/NRd+Mz,Ed/Mz,Rd = ",
-                F(NEd) + "/" + F(k.NRd) + "+" + F(MzEd) + "/" + F(k.MzRd) + " = ", ir,
-                PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
+        const double ir = Div(MzEd, k.MzRd);
+        if (Compete(ir, IR1, col1, lim))
+          line1.Keep([&s, x, ir, lowVy, MzEd, MzRd = k.MzRd](ControlText& t) {
+            Write(s, t, lowVy ? "IR = Mz,Ed/Mz,Rd = " : "IR = Mz,Ed/MV,z,Rd = ",
+                  F1(s, MzEd) + "/" + F1(s, MzRd) + " = ", ir,
+                  PointLimit(s, x, lowVy ? "L; Ch 6.2.5)" : "L; Ch 6.2.8)"));
+          });
       }
-    }
 
-    // g. N with both moments.
-    if (NEd != 0 && MyEd != 0 && MzEd != 0) {
-      k.classCur = rules.classY(s, NEd, MySigned);
-      k.classNMy = k.classCur;
-      rules.myRd(s);
-      k.classCur = rules.classZ(s, NEd, MzEd);
-      k.classNMz = k.classCur;
-      rules.mzRd(s);
-      if (!conser && k.classNMy <= 2 && k.classNMz <= 2) {
-        rules.mnyRd(s);
-        rules.mnzRd(s);
-        const double ir = Pow(Div(MyEd, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2,
-                std::string(highVz ? "IR = (My,Ed/MVN,y,Rd)^alfa " : "IR = (My,Ed/MN,y,Rd)^alfa ") +
-                    (highVy ? " + (Mz,Ed/MVN,z,Rd)^beta = " : " + (Mz,Ed/MN,z,Rd)^beta = "),
-                "(" + F(MyEd) + "/" + F(k.MNyRd) + ")^" + E(k.alfa) + "+" + "(" + F(MzEd) + "/" + F(k.MNzRd) +
-                    ")^" + E(k.betaN) + " = ",
-                ir, PointLimit(s, x, "L; Ch 6.2.9)"));
-      } else {
-        if (!rules.signedMy) {
-          k.classCur = StrictClassOfPair(s, classMy, k.classNMy);
-          rules.myRd(s);
-        }
+      // d. Both moments without an axial force.
+      if (MyEd != 0 && MzEd != 0 && NEd == 0) {
+        k.classCur = classMy;
+        rules.myRd(s);
         k.classCur = c.classMz;
         rules.mzRd(s);
-        const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
-        if (Compete(ir, IR2, col2, lim))
-          Write(s, t2,
-                std::string(highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd" : "IR = NEd/NRd+My,Ed/My,Rd") +
-                    (highVy ? "+Mz,Ed/MV,z,Rd = " : "+Mz,Ed/Mz,Rd = "),
-                F(NEd) + "/" + F(k.NRd) + "+" + F(MyEd) + "/" + F(k.MyRd) + "+" + F(MzEd) + "/" + F(k.MzRd) +
-                    " = ",
-                ir, PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
+        if (!conser && classMy <= 2 && c.classMz <= 2) {
+          const double ir = Pow(Div(MyEd, k.MyRd), k.alfa) + Pow(Div(MzEd, k.MzRd), k.betaN);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, lowVz, lowVy, MyEd, MzEd, expFormat, MyRd = k.MyRd, MzRd = k.MzRd,
+                        alfa = k.alfa, betaN = k.betaN](ControlText& t) {
+              auto E = [&](double v) { return FormatNumber(v, expFormat, s.decimalComma); };
+              Write(s, t,
+                    std::string(lowVz ? "IR = [My,Ed/My,Rd]^alfa" : "IR = [My,Ed/MV,y,Rd]^alfa") +
+                        (lowVy ? " + [Mz,Ed/Mz,Rd]^beta = " : " + [Mz,Ed/MV,z,Rd]^beta = "),
+                    "[" + F1(s, MyEd) + "/" + F1(s, MyRd) + "]^" + E(alfa) + "+" + "(" + F1(s, MzEd) + "/" +
+                        F1(s, MzRd) + ")^" + E(betaN) + " = ",
+                    ir, PointLimit(s, x, "L; Ch 6.2.5/6.2.9)"));
+            });
+        } else {
+          const double ir = Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, lowVz, lowVy, MyEd, MzEd, MyRd = k.MyRd, MzRd = k.MzRd](ControlText& t) {
+              Write(s, t,
+                    std::string(lowVz ? "IR = My,Ed/My,Rd" : "IR = My,Ed/MV,y,Rd") +
+                        (lowVy ? " + Mz,Ed/Mz,Rd = " : " + Mz,Ed/MV,z,Rd = "),
+                    F1(s, MyEd) + "/" + F1(s, MyRd) + " + " + F1(s, MzEd) + "/" + F1(s, MzRd) + " = ", ir,
+                    PointLimit(s, x, "L; Ch 6.2.1)"));
+            });
+        }
+      }
+
+      // e. N and My.
+      if (NEd != 0 && MyEd != 0) {
+        k.classCur = rules.classY(s, NEd, MySigned);
+        const double classPair = k.classCur;
+        rules.myRd(s);
+        if (k.classCur <= 2 && !conser) {
+          rules.mnyRd(s);
+          // With 1 - n below zero the ratio is negative and loses: only group 1 shows the overload.
+          const double ir = Div(MyEd, k.MNyRd);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, highVz, MyEd, MNyRd = k.MNyRd](ControlText& t) {
+              Write(s, t, highVz ? "IR = My,Ed/MVN,y,Rd = " : "IR = My,Ed/MN,y,Rd = ",
+                    F1(s, MyEd) + "/" + F1(s, MNyRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
+            });
+        } else {
+          // The resistance of the class of pure bending; with signed moments that of the pair stays.
+          if (!rules.signedMy) {
+            k.classCur = StrictClassOfPair(s, classMy, classPair);
+            rules.myRd(s);
+          }
+          const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, highVz, NEd, MyEd, NRd = k.NRd, MyRd = k.MyRd](ControlText& t) {
+              Write(s, t, highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd = " : "IR = NEd/NRd+My,Ed/My,Rd = ",
+                    F1(s, NEd) + "/" + F1(s, NRd) + "+" + F1(s, MyEd) + "/" + F1(s, MyRd) + " = ", ir,
+                    PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
+            });
+        }
+      }
+
+      // f. N and Mz.
+      if (NEd != 0 && MzEd != 0) {
+        k.classCur = rules.classZ(s, NEd, MzEd);
+        rules.mzRd(s);
+        if (k.classCur <= 2 && !conser) {
+          rules.mnzRd(s);
+          const double ir = Div(MzEd, k.MNzRd);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, highVy, MzEd, MNzRd = k.MNzRd](ControlText& t) {
+              Write(s, t, highVy ? "IR = Mz,Ed/MVN,z,Rd = " : "IR = Mz,Ed/MN,z,Rd = ",
+                    F1(s, MzEd) + "/" + F1(s, MNzRd) + " = ", ir, PointLimit(s, x, "L; Ch 6.2.9)"));
+            });
+        } else {
+          k.classCur = c.classMz;
+          rules.mzRd(s);
+          const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MzEd, k.MzRd);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, highVy, NEd, MzEd, NRd = k.NRd, MzRd = k.MzRd](ControlText& t) {
+              Write(s, t, highVy ? "IR = NEd/NRd+Mz,Ed/MV,z,Rd = " : "IR = NEd/NRd+Mz,Ed/Mz,Rd = ",
+                    F1(s, NEd) + "/" + F1(s, NRd) + "+" + F1(s, MzEd) + "/" + F1(s, MzRd) + " = ", ir,
+                    PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
+            });
+        }
+      }
+
+      // g. N with both moments.
+      if (NEd != 0 && MyEd != 0 && MzEd != 0) {
+        k.classCur = rules.classY(s, NEd, MySigned);
+        k.classNMy = k.classCur;
+        rules.myRd(s);
+        k.classCur = rules.classZ(s, NEd, MzEd);
+        k.classNMz = k.classCur;
+        rules.mzRd(s);
+        if (!conser && k.classNMy <= 2 && k.classNMz <= 2) {
+          rules.mnyRd(s);
+          rules.mnzRd(s);
+          const double ir = Pow(Div(MyEd, k.MNyRd), k.alfa) + Pow(std::fabs(Div(MzEd, k.MNzRd)), k.betaN);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, highVz, highVy, MyEd, MzEd, expFormat, MNyRd = k.MNyRd, MNzRd = k.MNzRd,
+                        alfa = k.alfa, betaN = k.betaN](ControlText& t) {
+              auto E = [&](double v) { return FormatNumber(v, expFormat, s.decimalComma); };
+              Write(s, t,
+                    std::string(highVz ? "IR = (My,Ed/MVN,y,Rd)^alfa " : "IR = (My,Ed/MN,y,Rd)^alfa ") +
+                        (highVy ? " + (Mz,Ed/MVN,z,Rd)^beta = " : " + (Mz,Ed/MN,z,Rd)^beta = "),
+                    "(" + F1(s, MyEd) + "/" + F1(s, MNyRd) + ")^" + E(alfa) + "+" + "(" + F1(s, MzEd) + "/" +
+                        F1(s, MNzRd) + ")^" + E(betaN) + " = ",
+                    ir, PointLimit(s, x, "L; Ch 6.2.9)"));
+            });
+        } else {
+          if (!rules.signedMy) {
+            k.classCur = StrictClassOfPair(s, classMy, k.classNMy);
+            rules.myRd(s);
+          }
+          k.classCur = c.classMz;
+          rules.mzRd(s);
+          const double ir = std::fabs(Div(NEd, k.NRd)) + Div(MyEd, k.MyRd) + Div(MzEd, k.MzRd);
+          if (Compete(ir, IR2, col2, lim))
+            line2.Keep([&s, x, ir, highVz, highVy, NEd, MyEd, MzEd, NRd = k.NRd, MyRd = k.MyRd,
+                        MzRd = k.MzRd](ControlText& t) {
+              Write(s, t,
+                    std::string(highVz ? "IR = NEd/NRd+My,Ed/MV,y,Rd" : "IR = NEd/NRd+My,Ed/My,Rd") +
+                        (highVy ? "+Mz,Ed/MV,z,Rd = " : "+Mz,Ed/Mz,Rd = "),
+                    F1(s, NEd) + "/" + F1(s, NRd) + "+" + F1(s, MyEd) + "/" + F1(s, MyRd) + "+" +
+                        F1(s, MzEd) + "/" + F1(s, MzRd) + " = ",
+                    ir, PointLimit(s, x, "L; Ch 6.2.1/6.2.9)"));
+            });
+        }
+      }
+
+      // h. The shear resistances of this point, with the flange contribution under its moment.
+      rules.shear(s, NEd, MySigned);
+
+      // i. Vz: the label says Vz,Rd, the value is Vb,z,Rd.
+      if (VzEd != 0) {
+        const double ir = Div(VzEd, c.VbzRd);
+        if (Compete(ir, IR3, col3, lim))
+          line3.Keep([&s, x, ir, VzEd, VbzRd = c.VbzRd, suffix = k.VbSuffix](ControlText& t) {
+            Write(s, t, "IR = Vz,Ed/Vz,Rd = ", F1(s, VzEd) + "/" + F1(s, VbzRd) + " = ", ir,
+                  PointLimit(s, x, "L; Ch 6.2.6") + suffix);
+          });
+      }
+
+      // j. Vy.
+      if (VyEd != 0) {
+        const double ir = Div(VyEd, c.VbyRd);
+        if (Compete(ir, IR3, col3, lim))
+          line3.Keep([&s, x, ir, VyEd, VbyRd = c.VbyRd](ControlText& t) {
+            Write(s, t, "IR = Vy,Ed/Vy,Rd = ", F1(s, VyEd) + "/" + F1(s, VbyRd) + " = ", ir,
+                  PointLimit(s, x, "L; Ch 6.2.6)"));
+          });
       }
     }
-
-    // h. The shear resistances of this point, with the flange contribution under its moment.
-    rules.shear(s, NEd, MySigned);
-
-    // i. Vz: the label says Vz,Rd, the value is Vb,z,Rd.
-    if (VzEd != 0) {
-      const double ir = Div(VzEd, c.VbzRd);
-      if (Compete(ir, IR3, col3, lim))
-        Write(s, t3, "IR = Vz,Ed/Vz,Rd = ", F(VzEd) + "/" + F(c.VbzRd) + " = ", ir,
-              PointLimit(s, x, "L; Ch 6.2.6") + k.VbSuffix);
-    }
-
-    // j. Vy.
-    if (VyEd != 0) {
-      const double ir = Div(VyEd, c.VbyRd);
-      if (Compete(ir, IR3, col3, lim))
-        Write(s, t3, "IR = Vy,Ed/Vy,Rd = ", F(VyEd) + "/" + F(c.VbyRd) + " = ", ir,
-              PointLimit(s, x, "L; Ch 6.2.6)"));
-    }
+  } catch (...) {
+    flush();
+    throw;
   }
+  flush();
 
   // 4. The governing ratio of the section control.
   an.IRsection = IR1 > IR2 ? IR1 : IR2;

@@ -14,8 +14,11 @@
 // puzzle the reader. kMinusOnZero is the one place that decides it.
 #include "core/format.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <vector>
 
@@ -70,35 +73,66 @@ std::string RoundDigits(Decimal& d, int keep) {
 enum class Tok { Lit, Zero, Hash, Point, Exp };
 struct Token {
   Tok kind;
-  std::string text;  // the literal, or "E+" / "E-" as written
+  std::string_view text;  // the literal, or "E+" / "E-" as written: a view into the pattern
 };
 
-std::vector<Token> Tokenize(std::string_view p) {
-  std::vector<Token> toks;
+// The tokens of a pattern: held in place for the patterns of the program (a few characters), on
+// the heap only for a pattern longer than that. A pattern gives at most one token per character,
+// and one more may be inserted.
+class Tokens {
+ public:
+  explicit Tokens(size_t patternSize) {
+    if (patternSize + 1 > kInPlace) heap_.resize(patternSize + 1);
+    data_ = heap_.empty() ? inPlace_.data() : heap_.data();
+  }
+  Tokens(const Tokens&) = delete;
+  Tokens& operator=(const Tokens&) = delete;
+  void push_back(const Token& t) { data_[size_++] = t; }
+  void insert(size_t at, const Token& t) {
+    for (size_t i = size_; i > at; --i) data_[i] = data_[i - 1];
+    data_[at] = t;
+    ++size_;
+  }
+  size_t size() const { return size_; }
+  const Token& operator[](size_t i) const { return data_[i]; }
+  const Token* begin() const { return data_; }
+  const Token* end() const { return data_ + size_; }
+
+ private:
+  static constexpr size_t kInPlace = 32;
+  std::array<Token, kInPlace> inPlace_;
+  std::vector<Token> heap_;
+  Token* data_;
+  size_t size_ = 0;
+};
+
+void Tokenize(std::string_view p, Tokens& toks) {
   bool point = false, exp = false;
   for (size_t i = 0; i < p.size(); ++i) {
     char c = p[i];
     if (c == '"') {
       size_t j = p.find('"', i + 1);
       if (j == std::string_view::npos) j = p.size();
-      toks.push_back({Tok::Lit, std::string(p.substr(i + 1, j - i - 1))});
+      toks.push_back({Tok::Lit, p.substr(i + 1, j - i - 1)});
       i = j;
     } else if (c == '\\') {
-      if (i + 1 < p.size()) toks.push_back({Tok::Lit, std::string(1, p[++i])});
+      if (i + 1 < p.size()) {
+        ++i;
+        toks.push_back({Tok::Lit, p.substr(i, 1)});
+      }
     } else if (c == '0' || c == '#') {
       toks.push_back({c == '0' ? Tok::Zero : Tok::Hash, {}});
     } else if (c == '.' && !point && !exp) {
       toks.push_back({Tok::Point, {}});
       point = true;
     } else if ((c == 'E' || c == 'e') && !exp && i + 1 < p.size() && (p[i + 1] == '+' || p[i + 1] == '-')) {
-      toks.push_back({Tok::Exp, std::string{c, p[i + 1]}});
+      toks.push_back({Tok::Exp, p.substr(i, 2)});
       ++i;
       exp = true;
     } else if (c != ',') {  // no digit grouping: a ',' is dropped
-      toks.push_back({Tok::Lit, std::string(1, c)});
+      toks.push_back({Tok::Lit, p.substr(i, 1)});
     }
   }
-  return toks;
 }
 
 // Hands out the digits of a whole number to a run of n placeholders from the left. The digits are
@@ -220,13 +254,133 @@ bool ScanStrict(std::string_view t, NumberParts& n) {
   return i == t.size();
 }
 
+// The patterns of the result texts: whole digits "#...#0...0", a decimal sign with decimals
+// "0...0#...#", and a plain text after them ("#0.0", "0.00", "#0", "0.000 m", "0.0 kNm"). For these
+// the general rules below come down to: the 15-digit text rounded half away from zero at the last
+// decimal, the whole digits padded with zeros to the count of '0's before the sign, the decimals
+// without the trailing zeros that fall on '#'s, the sign, the text. FormatFixed writes exactly
+// that into a buffer; any other pattern takes the general way.
+struct FixedPattern {
+  int wholeZeros = 0;     // '0's of the whole digits: the least number of them
+  int decimals = 0;       // placeholders after the decimal sign
+  int decimalZeros = 0;   // of which '0's, which come first
+  bool point = false;     // the pattern has a decimal sign
+  std::string_view tail;  // the text after the number
+};
+
+bool IsFixedPattern(std::string_view p, FixedPattern& f) {
+  size_t i = 0;
+  while (i < p.size() && p[i] == '#') ++i;
+  while (i < p.size() && p[i] == '0') {
+    ++i;
+    ++f.wholeZeros;
+  }
+  if (i < p.size() && p[i] == '.') {
+    f.point = true;
+    ++i;
+    while (i < p.size() && p[i] == '0') {
+      ++i;
+      ++f.decimalZeros;
+    }
+    f.decimals = f.decimalZeros;
+    while (i < p.size() && p[i] == '#') {
+      ++i;
+      ++f.decimals;
+    }
+  }
+  // Without a placeholder or decimal sign the digits would follow the text: the general way.
+  if (i == 0) return false;
+  f.tail = p.substr(i);
+  for (char c : f.tail)
+    if (c == '0' || c == '#' || c == '.' || c == ',' || c == 'E' || c == 'e' || c == '"' || c == '\\')
+      return false;
+  return true;
+}
+
+// v finite. False (nothing written) for a value whose digits would not fit the buffer.
+bool FormatFixed(double v, const FixedPattern& f, bool decimalComma, std::string& out) {
+  const double a = std::fabs(v);
+  // The 15-digit text: digits without trailing zeros, as 0.digits * 10^point.
+  char digits[32];
+  int nDigits = 0, point = 0;
+  if (a != 0.0) {
+    char buf[64];
+    auto r = std::to_chars(buf, buf + sizeof buf, a, std::chars_format::scientific, 14);
+    const char* e = std::find(buf, r.ptr, 'e');
+    for (const char* c = buf; c < e; ++c)
+      if (*c != '.') digits[nDigits++] = *c;
+    int exp10 = 0;
+    const char* es = e + 1;
+    if (es < r.ptr && *es == '+') ++es;
+    std::from_chars(es, r.ptr, exp10);
+    point = exp10 + 1;
+    while (nDigits > 0 && digits[nDigits - 1] == '0') --nDigits;
+  }
+  const int keep = point + f.decimals;
+  constexpr int kMax = 96;
+  if (keep > kMax) return false;
+  // The first `keep` digits, padded with zeros, rounded half away from zero on the next one.
+  char s[kMax + 2];
+  int ns = 0;
+  if (keep >= 0) {
+    for (int i = 0; i < keep; ++i) s[ns++] = i < nDigits ? digits[i] : '0';
+    if (keep < nDigits && digits[keep] >= '5') {
+      int i = keep - 1;
+      while (i >= 0 && s[i] == '9') s[i--] = '0';
+      if (i >= 0) {
+        ++s[i];
+      } else {
+        std::memmove(s + 1, s, static_cast<size_t>(ns));
+        s[0] = '1';
+        ++ns;
+        ++point;
+      }
+    }
+  }
+  // Whole digits and decimals.
+  const char* whole = s;
+  int nWhole = 0;
+  char frac[kMax + 2];
+  int nFrac = 0;
+  if (ns == 0) {
+    for (int i = 0; i < f.decimals; ++i) frac[nFrac++] = '0';
+  } else if (point >= 0) {
+    nWhole = point;
+    for (int i = point; i < ns; ++i) frac[nFrac++] = s[i];
+  } else {
+    for (int i = 0; i < -point; ++i) frac[nFrac++] = '0';
+    for (int i = 0; i < ns; ++i) frac[nFrac++] = s[i];
+  }
+  bool zero = true;
+  for (int i = 0; i < nWhole && zero; ++i) zero = whole[i] == '0';
+  for (int i = 0; i < nFrac && zero; ++i) zero = frac[i] == '0';
+  while (nFrac > f.decimalZeros && frac[nFrac - 1] == '0') --nFrac;
+  if (nFrac > f.decimals) nFrac = f.decimals;
+
+  out.reserve(static_cast<size_t>(nWhole + nFrac + 4) + f.tail.size());
+  if (v < 0 && (!zero || kMinusOnZero)) out += '-';
+  for (int i = nWhole; i < f.wholeZeros; ++i) out += '0';
+  out.append(whole, static_cast<size_t>(nWhole));
+  if (f.point) {
+    out += decimalComma ? ',' : '.';
+    out.append(frac, static_cast<size_t>(nFrac));
+  }
+  out += f.tail;
+  return true;
+}
+
 }  // namespace
 
 std::string FormatNumber(double v, std::string_view pattern, bool decimalComma) {
   if (!std::isfinite(v)) return GeneralText(v, 15, decimalComma);
   if (pattern.empty()) return GeneralText(v, 15, decimalComma);
+  if (FixedPattern f; IsFixedPattern(pattern, f)) {
+    std::string out;
+    if (FormatFixed(v, f, decimalComma, out)) return out;
+  }
 
-  std::vector<Token> toks = Tokenize(pattern);
+  Tokens toks(pattern.size());
+  Tokenize(pattern, toks);
   // Count the placeholders of the integer part, the decimals and the exponent.
   int nInt = 0, nFrac = 0, nExp = 0, intFirstZero = -1, expFirstZero = -1, fracLastZero = 0;
   int region = 0;  // 0 integer part, 1 decimals, 2 exponent
@@ -254,7 +408,7 @@ std::string FormatNumber(double v, std::string_view pattern, bool decimalComma) 
     }
   }
   if (nInt == 0) {  // the whole digits have to go somewhere: before the point, or at the end
-    toks.insert(toks.begin() + mantissaEnd, Token{Tok::Hash, {}});
+    toks.insert(mantissaEnd, Token{Tok::Hash, {}});
     nInt = 1;
   }
   if (intFirstZero < 0) intFirstZero = nInt;

@@ -1,5 +1,7 @@
 // The stages of one recalculation, in the order Recalculate runs them. Each stage lives with its
-// subsystem; a stage still to come is an empty routine.
+// subsystem; a stage still to come is an empty routine. With State::headless set, the stages of
+// the screen (the section values, the section figure, the drawing of the charts and of the member
+// figure) draw and fill nothing; what they decide for the record and the next run they still do.
 #pragma once
 
 namespace vn {

@@ -65,10 +65,16 @@ void Recalculate(State& s) {
   try {
     p.calcError = 0;
     s.view.txtErrorVisible = false;
+    // Without a front end nothing is drawn and no dialog shown: no picture or value of an earlier
+    // run may stand beside these results.
+    if (s.headless) {
+      s.view.pictures.clear();
+      s.view.sectionValues.clear();
+    }
 
     ComputeSection(s);
     reached = Reached::Section;
-    ShowSectionValues(s);
+    ShowSectionValues(s);  // these two, the charts and the member figure draw nothing headless
     reached = Reached::SectionShown;
     DrawSectionFigure(s);
     reached = Reached::Figure;

@@ -15,6 +15,8 @@ inline constexpr const char* kNoResultsText =
 
 // Rebuilds all results from the project record, in a fixed order. A failed numeric step at any
 // depth, or a set calcError, ends the run in the one message; nothing is rolled back.
+// With s.headless set (see State) the run draws nothing and fills no dialog's values: the same
+// results, to the bit, without what only a screen needs. Every event that recalculates follows it.
 void Recalculate(State& s);
 
 // The defaults of a new project, in three stages with a recalculation between the first two.

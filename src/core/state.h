@@ -44,6 +44,16 @@ struct State {
   // The last run reached its end: the summary, the ratios, the charts and the tables belong to the
   // inputs as they stand. False after a failed run: nothing may be shown, printed or exported.
   bool resultsValid = false;
+  // A run without a front end. Recalculate computes every result as ever: the section, the
+  // analysis, every ratio and control text, the values of More Results, the summary and its
+  // verdict, the web text, the changes the run makes to the record (ltbOn, webStiffeners,
+  // rigidEndPost, chModal) and what the charts decide for the next run (hasLoadY, hasLoadZ). It
+  // leaves out what only a screen needs: the section figure, the charts, the member figure and the
+  // family's pictures (view.pictures stays empty), and the section dialog's values
+  // (view.sectionValues stays empty; the report makes its own). The results are the same to the
+  // bit as with the flag clear. Set it once on a State that no screen shows (a batch, a search
+  // through the catalogues, a benchmark), before StartUp or at any time after.
+  bool headless = false;
   int fireDepth = 0;  // events in progress: a handler may fire others (a list set in code)
 };
 

@@ -424,13 +424,18 @@ std::optional<std::string> ChartReadout(const State& s, std::string_view picture
 void DrawCharts(State& s) {
   View& v = s.view;
   Analysis& a = s.analysis;
-  auto record = [&v](const char* name, auto drawFn) {
+  // Without a front end (s.headless) nothing is drawn; the flags and what is on show are kept.
+  const bool onScreen = !s.headless;
+  auto record = [&v, onScreen](const char* name, auto drawFn) {
+    if (!onScreen) return;
     draw::Drawing& d = v.pictures[name];
     d.commands.clear();
     draw::RecordingCanvas c(d);
     drawFn(c);
   };
-  auto clear = [&v](const char* name) { v.pictures[name].commands.clear(); };
+  auto clear = [&v, onScreen](const char* name) {
+    if (onScreen) v.pictures[name].commands.clear();
+  };
 
   a.hasLoadY = ToBoolean(LoadsInDirection(s, ChartAxis::Y));
   a.hasLoadZ = ToBoolean(LoadsInDirection(s, ChartAxis::Z));

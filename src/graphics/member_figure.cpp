@@ -144,8 +144,10 @@ void UpdateMainFormState(State& s) {
   const int type = p.ProfileType;
   const bool dc = s.decimalComma;
 
+  const bool onScreen = !s.headless;  // a run without a front end draws no picture
+
   // 1. The member symbol.
-  Record(s, "pic11", DrawMemberSymbol);
+  if (onScreen) Record(s, "pic11", DrawMemberSymbol);
 
   // 2. "Column data" under compression only, never for the families that carry no axial force.
   bool column = s.analysis.NEd > 0;
@@ -188,10 +190,10 @@ void UpdateMainFormState(State& s) {
   v.visible["pic_vipp"] = vipp;
   v.visible["zaa"] = zaa;
   v.visible["pic_loadlevel"] = loadLevel;
-  if (vipp) Record(s, "pic_vipp", [](draw::Canvas& c, const State&) { DrawLtbPicture(c); });
+  if (vipp && onScreen) Record(s, "pic_vipp", [](draw::Canvas& c, const State&) { DrawLtbPicture(c); });
 
   // 5. The picture of the load level.
-  {
+  if (onScreen) {
     draw::Drawing& d = v.pictures["pic_loadlevel"];
     d.commands.clear();
     draw::RecordingCanvas c(d);
@@ -212,7 +214,7 @@ void UpdateMainFormState(State& s) {
   }
 
   // 8. The family's picture on the main form.
-  {
+  if (onScreen) {
     draw::Drawing& d = v.pictures["Picture4"];
     d.commands.clear();
     draw::RecordingCanvas c(d);

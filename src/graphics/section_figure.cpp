@@ -506,6 +506,7 @@ void DrawSectionToScale(draw::Canvas& c, const State& s) {
 }
 
 void DrawSectionFigure(State& s) {
+  if (s.headless) return;  // no screen to draw on
   const std::string box = SectionFigureBox(s.project.ProfileType);
   if (box.empty()) return;
   draw::Drawing& d = s.view.pictures[box];

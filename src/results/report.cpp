@@ -213,6 +213,7 @@ void SectionReport(const State& s, Report& r) {
 
   // The dialog's values of the last run, made afresh: a dialog may not have shown them since.
   State shown = s;
+  shown.headless = false;  // the report shows them, with a front end or without
   ShowSectionValues(shown);
   const SectionBlocks b = SplitSectionValues(shown.view.sectionValues);
   auto block = [&](const char* heading, const std::vector<View::Line>& lines) {

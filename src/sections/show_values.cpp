@@ -211,6 +211,7 @@ void AngleBlocks(Block& out, const Section& c) {
 
 void ShowSectionValues(State& s) {
   s.view.sectionValues.clear();
+  if (s.headless) return;  // no dialog to show them in
   Block out{s};
   const Section& c = s.section;
   switch (s.project.ProfileType) {

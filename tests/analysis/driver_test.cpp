@@ -2,6 +2,9 @@
 // the choice between Eq 6.10a and 6.10b, governing moments.
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include "beam_fixture.h"
 #include "core/json.h"
 
@@ -237,6 +240,45 @@ TEST(Combination, TicksHaveNoEffectOutsideBasicLoads) {
   for (auto& u : s.loads.uniform) u.Checked = False;
   MemberAnalysis(s);
   EXPECT_EQ(Printed(s.analysis.MyGrid[25], "0.00"), "97.20");
+}
+
+// Each slot is added in turn and every sum stored as a Single. A sum too small for a Single keeps
+// only its sign: 0.25 * -1.4E-45 (the smallest Single) is stored as -0. The slots after it carry
+// nothing and add 0.25 * (+0) = +0, and -0 + +0 is +0: so the moment there is +0, as printed.
+TEST(Combination, AMomentStoredAsMinusZeroIsPlusZeroAfterTheEmptySlots) {
+  State s = BeamState(6, 0);
+  s.project.LoadCombMode = 4;
+  s.project.LfULS_G = 0.25f;
+  AddUniform(s, 1, 10);
+  ComputeCheckGrid(s);
+  SolveAllSlots(s);
+  s.analysis.unit.uniform.z[1].M[5] = -std::numeric_limits<float>::denorm_min();
+  CombineLoads(s, CombForm::UserFactors);
+  EXPECT_EQ(s.analysis.MyGrid[5], 0.0f);
+  EXPECT_FALSE(std::signbit(s.analysis.MyGrid[5]));
+  EXPECT_EQ(Printed(s.analysis.MyGrid[25], "0.00"), "11.25");  // 0.25 * 10 * 36 / 8
+}
+
+// A sum beyond a Single ends the run at that sum, with every sum before it stored: here the
+// second of two slots of 10 kN/m, at the 11th point of the diagram, where both carry 3E38.
+TEST(Combination, ASumBeyondASingleFaultsThereWithTheSumsBeforeItStored) {
+  State s = BeamState(6, 0);
+  AddUniform(s, 1, 10);
+  AddUniform(s, 2, 10);
+  ComputeCheckGrid(s);
+  SolveAllSlots(s);
+  s.analysis.unit.uniform.z[1].M[10] = 3e38f;
+  s.analysis.unit.uniform.z[2].M[10] = 3e38f;
+  EXPECT_THROW(CombineLoads(s, CombForm::BasicLoads), CalcFault);
+  const Analysis& a = s.analysis;
+  // x = 1.08 m: M = 10 * 1.08 * 4.92 / 2 = 26.568 a slot, V = 30 - 10.8 = 19.2: both slots.
+  EXPECT_EQ(Printed(a.MyGrid[9], "0.000"), "53.136");
+  EXPECT_EQ(Printed(a.VzGrid[9], "0.0"), "38.4");
+  // x = 1.2 m: the first slot's 3E38 and V = 18; the second faulted on its moment.
+  EXPECT_EQ(a.MyGrid[10], 3e38f);
+  EXPECT_EQ(Printed(a.VzGrid[10], "0.0"), "18.0");
+  // x = 1.32 m: the first slot only, M = 10 * 1.32 * 4.68 / 2 = 30.888.
+  EXPECT_EQ(Printed(a.MyGrid[11], "0.000"), "30.888");
 }
 
 // ---- Eq 6.10a/b ----

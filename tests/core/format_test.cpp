@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 namespace vn {
 namespace {
@@ -34,6 +35,8 @@ TEST(FormatDigits, LargeNumbersPrintEveryWholeDigitWithoutGrouping) {
   EXPECT_EQ(FormatNumber(210000, "##0"), "210000");
   // 1.5e20: 15 significant digits then zeros.
   EXPECT_EQ(FormatNumber(1.5e20, "#0"), "150000000000000000000");
+  // Far more digits than any result has: 1e150 is 1 and 150 zeros, then the decimals.
+  EXPECT_EQ(FormatNumber(-1e150, "0.00 m"), "-1" + std::string(150, '0') + ".00 m");
 }
 
 TEST(FormatDigits, TinyNumbersRoundToZero) {
