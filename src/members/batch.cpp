@@ -373,9 +373,10 @@ std::string GradeLabel(const State& s) {
 }
 
 // A State for one member: a copy of the started one, with a settings store of its own (opening a
-// project writes the recent files) and without the pictures, which the run draws anew.
+// project writes the recent files), run without the pictures and the dialog values.
 State MemberState(const State& base) {
   State s = base;
+  s.headless = true;
   s.settings = std::make_shared<MemorySettingsStore>();
   return s;
 }

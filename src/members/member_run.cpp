@@ -6,7 +6,12 @@
 
 namespace vn {
 
-void RunMember(State& s) { Recalculate(s); }
+// A member of a list or a search is never drawn: it runs without the pictures and the dialog values,
+// and its results are those of a full run to the bit.
+void RunMember(State& s) {
+  s.headless = true;
+  Recalculate(s);
+}
 
 MemberOutcome OutcomeOf(const State& s) {
   MemberOutcome o;
