@@ -248,5 +248,81 @@ TEST(SectionControlHSQ, OverloadedFlangeFailsUnderTheStrictRules) {
   }
 }
 
+// Through the single-precision section values (Iy, the moduli) to the hand values.
+constexpr Tolerance kSteps{1e-5, "hand calculation through the single-precision section values"};
+
+// Shear of the plated families: the web between the plates of an HSQ and the flange contribution of
+// EN 1993-1-5 5.4 (1) with each flange at most 15 epsilon tf each side of a web under the strict
+// rules. S355 (epsilon 0.813616, eta 1.2), gammas 1; one point at M = 0 with Vz = 100 kN, so that
+// Vbf = b tf^2 fy/c, c = a (0.25 + 1.6 b tf^2/(tw hw^2)), a = 1000 L without stiffeners.
+//  1. HSQ 25 of the dialog, 300x300/430x6x25/15, c 15: stocky either way (hw/tw < 72 eps/eta = 48.82).
+//     As specified hw = 300 - 15 - 6 = 279: Vz,Rd = 2*1.2*279*6*355/sqrt(3)/1000 = 823.4447; strict
+//     the clear depth 300 - 25 - 15 = 260: 767.3678.
+//  2. HSQ 25 450x360/560x8x12/14, c 20, 6 m: slender, chi_w hw = 0.83*86.4 eps tw whatever hw, so
+//     Vbw = 1530.6972 both ways (hw 428: lamda_w 0.761062, chi_w 1.090581). As specified the top plate
+//     360x12 (tf b 4320 < 7840): c = 6000 (0.25 + 1.6*360*144/(8*428^2)) = 1839.593, Vbf = 10.0040,
+//     1540.7012. Strict, hw 424, 15 eps tf: 146.451 (12), 170.859 (14); the top plate between the
+//     webs 2*146.451 = 292.902, the bottom plate 2*8 + 20 + 164 + 2*170.859 = 541.719:
+//     Vbf = 292.902*144*355/1781.536/1000 = 8.4046 (the bottom plate's 17.0654 is larger), 1539.1018.
+//  3. Plate 600x10 + T 400x150x6x12 (56), 4 m, web stiffeners at a = 1000: hw 388, k = 5.34 +
+//     4*0.388^2 = 5.942176, lamda_w = 388/(37.4 eps 6 sqrt(k)) = 0.871799, chi_w 0.952054,
+//     Vbw = 454.2683. As specified the whole plate: c = 356.281, Vbf = 59.7842, 514.0525. Strict:
+//     the plate 6 + 2*122.042 = 250.085: Vbf 30.1667; the T's flange 150 (72 < 146.451) x 12:
+//     c = 288.261, Vbf = 26.6009, the smaller: 480.8692.
+//  4. Plate 600x10 + flat bar 450x8 (51), 4 m: lamda_w = 450/(86.4 eps 8) = 0.800182, chi_w 1.037263,
+//     Vbw = 765.3486. As specified with the plate: c = 1237.037, Vbf = 17.2186, 782.5672. Strict: a web
+//     with one flange anchors no tension field, 765.3486.
+TEST(PlatedShear, WebBetweenThePlatesAndTheFlangesWithin15EpsilonTf) {
+  struct Case {
+    int type;
+    double L;
+    bool stiffeners;
+    double specified, strict;
+  };
+  const Case cases[] = {
+      {25, 2, false, 823.44467, 767.36779},
+      {251, 6, false, 1540.7012, 1539.1018},
+      {56, 4, true, 514.05253, 480.86917},
+      {51, 4, false, 782.56716, 765.34859},
+  };
+  for (const Case& t : cases) {
+    for (const bool strict : {false, true}) {
+      State s = SectionState();
+      Project& p = s.project;
+      p.steelGrade = kS355;
+      p.fyk = 355;
+      p.neta = 1.2f;
+      p.strictRules = strict ? True : False;
+      p.L = ToSingle(t.L);
+      p.webStiffeners = t.stiffeners ? 1 : 0;
+      p.a = 1000;
+      p.hsqKind = 1;
+      if (t.type == 25) {
+        p.ProfileType = 25;
+        p.p25 = {300, 300, 430, 6, 25, 15, 15, 1};
+      } else if (t.type == 251) {
+        p.ProfileType = 25;
+        p.p25 = {450, 360, 560, 8, 12, 14, 20, 1};
+      } else if (t.type == 56) {
+        p.ProfileType = 56;
+        p.p56 = {400, 600, 150, 6, 10, 12};
+      } else {
+        p.ProfileType = 51;
+        p.p51 = {450, 600, 8, 10};
+      }
+      s.analysis.IRlimit = 1;
+      ComputeSection(s);
+      SetPoints(s, 0, {{0.0f, 0, 0, 0, 100}});
+      if (p.ProfileType == 25)
+        SectionControlHSQ(s);
+      else
+        SectionControlPlate(s);
+      const double expected = strict ? t.strict : t.specified;
+      EXPECT_TRUE(Near(s.section.VbzRd, expected, kSteps)) << t.type << strict;
+      EXPECT_TRUE(Near(s.checks.IRsec[3], 100 / expected, kSteps)) << t.type << strict;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace vn::test
