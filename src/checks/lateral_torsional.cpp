@@ -74,7 +74,7 @@ double TrippingStress(const State& s, double LT) {
 // sigma_cr; lamdaLT = sqrt(Wy fy / Mcr) with the modulus Wy of the resistance the line divides by
 // (plastic, elastic or effective by the class); curve d (alpha 0.76), as for a section that is not
 // an I. Where sigma_cr >= 6 fy the stiffener does not buckle torsionally (EN 1993-1-5 9.2.1 (8)):
-// xLT = 1. The standard's let-off leaves a step there (just below it the curve gives about 0.85),
+// xLT = 1. The standard's let-off leaves a step there (just below it the curve gives 0.85 or less),
 // which is the standard's own and on the safe side of it.
 void TrippingChi(State& s, double M) {
   const Project& p = s.project;
