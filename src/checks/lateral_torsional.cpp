@@ -12,6 +12,7 @@
 #include "checks/buckling.h"
 #include "core/format.h"
 #include "core/state.h"
+#include "design/design_basis.h"
 
 namespace vn {
 
@@ -26,6 +27,73 @@ CFactors Mix(double a, const CFactors& x, double b, const CFactors& y) {
 bool DoubleSymmetricLtb(int type) { return DoubleSymmetricLtbFamily(type); }
 
 bool PlateFamily(int type) { return type >= 51 && type <= 56; }
+
+// The stiffeners with a flange (52, 53, 54, 56) trip under the strict rules by their own properties;
+// the flat bar (51) keeps its own formula.
+bool StrictTripping(const State& s) {
+  const int type = s.project.ProfileType;
+  return StrictRules(s) && (type == 52 || type == 53 || type == 54 || type == 56);
+}
+
+// The elastic critical stress of the stiffener's torsional buckling about its junction with the
+// plate (EN 1993-1-5 9.2.1 (8)), N/mm2, over the length LT (mm):
+//   sigma_cr = (G It + pi^2 E Iw / LT^2) / Ip
+// of the stiffener alone (web hw x tw, flange b2 x tf2), the pole on the plate's face at the web:
+//   It = hw tw^3/3 (1 - 0.63 tw/hw) + b2 tf2^3/3 (1 - 0.63 tf2/b2)
+//   Iw = hf^2 tf2 b2^3/12, hf = hw + tf2/2 (the flange's sway about the junction)
+//   Ip = tw hw^3/3 + hw tw^3/12 + b2 tf2 (hf^2 + e^2) + b2 tf2^3/12 + tf2 b2^3/12, e the flange's
+//        centre from the web's (b2/2 - tw/2 for the one-sided flange of an angle or a bulb, else 0).
+// Each choice lies on the safe side: the plate's restraint against the stiffener's rotation is left
+// out, and so are the warping of the plates about their own mid-planes and the rolled angle's
+// fillet; the one-sided flange counts in Iw by its own lateral inertia only, without its
+// eccentricity (which the web's bending partly takes up), but in Ip with it. The whole stiffener
+// is taken at the stress of its tip, whereas the stress falls to the axis and turns to tension in
+// the plate, and no C1 raises it for a moment that varies along LT.
+double TrippingStress(const State& s, double LT) {
+  const Section& c = s.section;
+  const Project& p = s.project;
+  const double E = p.E, G = E / 2.6;
+  const double hw = c.hw, tw = c.tw, b2 = c.b2, tf2 = c.tf2;
+  const double e = s.project.ProfileType == 56 ? 0 : b2 / 2 - tw / 2;
+  const double hf = hw + tf2 / 2;
+  const double It =
+      hw * tw * tw * tw / 3 * (1 - 0.63 * Div(tw, hw)) + b2 * tf2 * tf2 * tf2 / 3 * (1 - 0.63 * Div(tf2, b2));
+  const double Iw = hf * hf * tf2 * b2 * b2 * b2 / 12;
+  const double Ip = tw * hw * hw * hw / 3 + hw * tw * tw * tw / 12 + b2 * tf2 * (hf * hf + e * e) +
+                    b2 * tf2 * tf2 * tf2 / 12 + tf2 * b2 * b2 * b2 / 12;
+  return Div(G * It + Div(PiSingle * PiSingle * E * Iw, LT * LT), Ip);
+}
+
+// The reduction of the stiffener's tripping under the strict rules (EN 1993-1-1 6.3.2.2 with the
+// critical moment of the stiffener's torsional buckling). The plate compressed (M > 0) is held in
+// its plane by the panel and the stiffener's free edge is in tension: nothing trips, xLT = 1. The
+// free edge compressed: Mcr = sigma_cr Wyb, the moment that brings the stiffener's edge to
+// sigma_cr; lamdaLT = sqrt(Wy fy / Mcr) with the modulus Wy of the resistance the line divides by
+// (plastic, elastic or effective by the class); curve d (alpha 0.76), as for a section that is not
+// an I. Where sigma_cr >= 6 fy the stiffener does not buckle torsionally (EN 1993-1-5 9.2.1 (8)):
+// xLT = 1. The standard's let-off leaves a step there (just below it the curve gives 0.85 or less),
+// which is the standard's own and on the safe side of it.
+void TrippingChi(State& s, double M) {
+  const Project& p = s.project;
+  const Section& c = s.section;
+  Checks& k = s.checks;
+  if (!(M < 0)) {
+    k.lamdaLT = 0;
+    k.xLT = 1;
+    return;
+  }
+  const double fyk = p.fyk;
+  k.lamdaLT = Sqrt(Div(fyk * c.WyNeg, k.McrWork));
+  const double sigmaCr = Div(k.McrWork, c.Wyb);
+  if (sigmaCr >= 6 * fyk) {
+    k.xLT = 1;
+    return;
+  }
+  const double lt = k.lamdaLT;
+  const double phi = 0.5 * (1 + 0.76 * (lt - 0.2) + lt * lt);
+  k.xLT = Div(1, phi + Sqrt(phi * phi - lt * lt));
+  if (k.xLT > 1) k.xLT = 1;
+}
 
 // (LT^2 G It / E + Iw ... ) / Iz: the torsion and warping term under the root of Mcr, LT in mm.
 double TorsionTerm(const State& s, double LT) {
@@ -51,6 +119,10 @@ bool McrFormula(const State& s, double LT, double C1, double w, double& Mcr) {
   if (type == 51) {  // plate with a flat bar
     const double r = Div(c.hw, LT);
     Mcr = (1 + 2 * r * r) * G * std::pow(Div(c.tw, c.h), 2) * c.Wyt;
+    return true;
+  }
+  if (StrictTripping(s)) {
+    Mcr = TrippingStress(s, LT) * c.Wyb;
     return true;
   }
   if (PlateFamily(type)) {
@@ -343,6 +415,9 @@ void ChiGeneral(State& s, double M) {
   } else if (type == 51) {
     alpha = 0.76;
     W = c.Wyt;
+  } else if (StrictTripping(s)) {
+    TrippingChi(s, M);
+    return;
   } else if (PlateFamily(type)) {
     alpha = Div(c.hw, c.b2) <= 2 ? 0.49 : 0.76;
     W = c.Wyt;

@@ -4,6 +4,7 @@
 // section stage chose for its class (with the upgrade of a class 3 web and the load on the HSQ's
 // lower plate), reduced for high shear. The plates have the lateral torsional line alone as their
 // buckling control; HSQ and the box have none.
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -28,21 +29,78 @@ using text::Write;
 
 namespace {
 
-// The shear resistances of a point of an HSQ or box: the flange contribution of the flange with
-// the smaller tf b, the two webs side by side. The axial force stays out.
-void TwoWebShear(State& s, double MyEd) {
-  const Section& c = s.section;
-  const bool firstFlange = static_cast<double>(c.tf2) * c.b2 > static_cast<double>(c.tf1) * c.b1;
-  if (firstFlange)
-    ShearResistancesOf(s, 0, MyEd, c.b1, c.tf1, 2);
-  else
-    ShearResistancesOf(s, 0, MyEd, c.b2, c.tf2, 2);
+// The width of a plate that the flange contribution counts under the strict rules (EN 1993-1-5
+// 5.4 (1)): at most 15 epsilon tf each side of each web. `outA`, `outB` the plate's projections
+// beyond the outer faces of the `webs` webs, `gap` the plate between two webs (half to each);
+// `overWebs` where the plate runs across the webs' ends, whose thickness then counts as well.
+double AnchoredWidth(const State& s, double tf, double outA, double outB, double gap, double webs,
+                     bool overWebs) {
+  const double lim = 15 * static_cast<double>(s.project.epsilon) * tf;
+  auto side = [lim](double w) { return std::min(std::max(w, 0.0), lim); };
+  return (overWebs ? webs * s.section.tw : 0) + side(outA) + side(outB) + (webs - 1) * 2 * side(gap / 2);
 }
 
-// The plate is the one flange of the plate families.
+// The shear resistances of a point of an HSQ or box, the two webs side by side; the axial force
+// stays out. The program's own method takes the whole of the flange with the smaller tf b and the
+// HSQ's hw. The strict rules take each plate at most 15 epsilon tf each side of a web, the smaller
+// of the two plates' contributions, and the HSQ's web between the plates. Both keep one flange
+// term for the two webs with one web's thickness in c, which gives less than a term for each web.
+void TwoWebShear(State& s, double MyEd) {
+  const Section& c = s.section;
+  const Project& p = s.project;
+  ShearPanel panel;
+  panel.hw = c.hw;
+  panel.webs = 2;
+  if (!StrictRules(s)) {
+    const bool firstFlange = static_cast<double>(c.tf2) * c.b2 > static_cast<double>(c.tf1) * c.b1;
+    panel.b = firstFlange ? c.b1 : c.b2;
+    panel.tf = firstFlange ? c.tf1 : c.tf2;
+    ShearResistancesOf(s, 0, MyEd, panel);
+    return;
+  }
+  const double b1 = c.b1, b2 = c.b2, tw = c.tw;
+  double topA = 0, topB = 0, topGap = b1, botA = 0, botB = 0, botGap = b1;
+  bool topOverWebs = false;  // the HSQ's top plate lies between the webs
+  if (p.ProfileType == 27) {
+    const double over = p.p27.istc;
+    topA = topB = over;
+    topGap = botGap = c.c1;
+    topOverWebs = true;
+    botA = botB = (b2 - b1) / 2 + over;
+  } else if (p.ProfileType == 25) {
+    botA = p.p25.istc;
+    botB = b2 - b1 - botA - 2 * tw;
+  } else {
+    botA = botB = (b2 - b1 - 2 * tw) / 2;
+  }
+  panel.hw = ShearWebHeight(s);
+  panel.b = AnchoredWidth(s, c.tf1, topA, topB, topGap, 2, topOverWebs);
+  panel.tf = c.tf1;
+  panel.bAlt = AnchoredWidth(s, c.tf2, botA, botB, botGap, 2, true);
+  panel.tfAlt = c.tf2;
+  ShearResistancesOf(s, 0, MyEd, panel);
+}
+
+// The plate is the one flange of the plate families. The strict rules take it, and the flange of
+// a stiffener that has one, at most 15 epsilon tf each side of the web, the smaller of the two
+// contributions; a flat bar (51) leaves the web with one flange, which anchors no tension field.
 void PlateShear(State& s, double MyEd) {
   const Section& c = s.section;
-  ShearResistancesOf(s, 0, MyEd, c.b1, c.tf1, 1);
+  ShearPanel panel;
+  panel.hw = c.hw;
+  panel.b = c.b1;
+  panel.tf = c.tf1;
+  if (StrictRules(s)) {
+    if (s.project.ProfileType == 51) {
+      panel.flangeContribution = false;
+    } else {
+      panel.b = AnchoredWidth(s, c.tf1, c.c1, c.c1, 0, 1, true);
+      const bool twoSided = s.project.ProfileType == 56;
+      panel.bAlt = AnchoredWidth(s, c.tf2, c.c2, twoSided ? c.c2 : 0, 0, 1, true);
+      panel.tfAlt = c.tf2;
+    }
+  }
+  ShearResistancesOf(s, 0, MyEd, panel);
 }
 
 // The control at every check point: My with its sign in group 1, Vz in group 3.
@@ -105,7 +163,7 @@ double MyRdSignedPlated(State& s, double cls, double MyEd) {
   const Section& c = s.section;
   const Project& p = s.project;
   RhoZOfPoint(s);
-  const double hw = c.hw, tw = c.tw, fyk = p.fyk;
+  const double hw = ShearWebHeight(s), tw = c.tw, fyk = p.fyk;
   const double webs = hw * hw * (2 * static_cast<double>(k.rhoZ) * tw);
   const bool plastic = cls != 3 && cls != 4 && p.elasticClass12 == 0;
   const double R = webs / (plastic ? 4 : 6) / 1000000 * fyk;

@@ -3,6 +3,7 @@
 // section stage; a slender one takes chi_w of Table 5.1 by its stiffeners and end post.
 #include "checks/shear_resistance.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/state.h"
@@ -34,13 +35,35 @@ bool ShearStocky(const State& s, double hw, double tw) {
 }
 
 std::string ComputeShearResistances(State& s, double NEd, double MyEd) {
-  return ShearResistancesOf(s, NEd, MyEd, s.section.b, s.section.tf, 1);
+  const Section& c = s.section;
+  ShearPanel panel;
+  panel.hw = c.hw;
+  panel.b = c.b;
+  panel.tf = c.tf;
+  return ShearResistancesOf(s, NEd, MyEd, panel);
 }
 
-std::string ShearResistancesOf(State& s, double NEd, double MyEd, double b, double tf, double webs) {
+namespace {
+
+// The flange contribution of the flange b x tf to a web panel of hw x tw (EN 1993-1-5 5.4 (1)) at
+// the moment MyEd, kN; MyEd below MfyRd. One steel grade: fyf / fyw drops out of c.
+double FlangeContribution(const State& s, double MyEd, double b, double tf, double hw, double tw) {
+  const Project& p = s.project;
+  // Without intermediate stiffeners the panel is the whole member, whatever a holds (a new
+  // project has 2500 mm there, which on a longer member would overstate Vb,f).
+  const double a = p.webStiffeners == 0 ? 1000.0 * p.L : p.a;
+  const double cFlange = a * (0.25 + Div(1.6 * b * tf * tf, hw * hw * tw));
+  const double ratio = Div(MyEd, s.section.MfyRd);
+  return Div(Div(Div(b * tf * tf * static_cast<double>(p.fyk), cFlange), p.gammaM1) * (1 - ratio * ratio),
+             1000);
+}
+
+}  // namespace
+
+std::string ShearResistancesOf(State& s, double NEd, double MyEd, const ShearPanel& panel) {
   Section& c = s.section;
   const Project& p = s.project;
-  const double hw = c.hw, tw = c.tw;
+  const double hw = panel.hw, tw = c.tw, webs = panel.webs, b = panel.b, tf = panel.tf;
   const double fyk = p.fyk, neta = p.neta;
   const double g0 = p.gammaM0, g1 = p.gammaM1;
   const double sqrt3 = Sqrt(3);
@@ -59,14 +82,10 @@ std::string ShearResistancesOf(State& s, double NEd, double MyEd, double b, doub
     // Contribution of the flanges, with their moment resistance reduced for the axial force. NEd is
     // in kN and the flanges' force in N here: the factor 1000 between them stays as it is.
     double Vbf = 0;
-    c.MfyRd = c.MfyRd * (1 - Div(std::fabs(NEd), Div(2 * b * tf * fyk, g0)));
-    if (MyEd < c.MfyRd) {
-      // Without intermediate stiffeners the panel is the whole member, whatever a holds (a new
-      // project has 2500 mm there, which on a longer member would overstate Vb,f).
-      const double a = p.webStiffeners == 0 ? 1000.0 * p.L : p.a;
-      const double cFlange = a * (0.25 + Div(1.6 * b * tf * tf, hw * hw * tw));
-      const double ratio = Div(MyEd, c.MfyRd);
-      Vbf = Div(Div(Div(b * tf * tf * fyk, cFlange), g1) * (1 - ratio * ratio), 1000);
+    if (NEd != 0) c.MfyRd = c.MfyRd * (1 - Div(std::fabs(NEd), Div(2 * b * tf * fyk, g0)));
+    if (panel.flangeContribution && MyEd < c.MfyRd) {
+      Vbf = FlangeContribution(s, MyEd, b, tf, hw, tw);
+      if (panel.bAlt > 0) Vbf = std::min(Vbf, FlangeContribution(s, MyEd, panel.bAlt, panel.tfAlt, hw, tw));
     }
 
     c.VbzRd = ToSingle(Vbw + Vbf);

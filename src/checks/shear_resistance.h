@@ -25,8 +25,20 @@ double ShearBucklingChi(const State& s, double hw, double tw);
 // VbzRd is the plastic resistance VplRd. Called at every check point by the section controls, and
 // once by the section stage of the families that show Vb,z,Rd in their dialog.
 std::string ComputeShearResistances(State& s, double NEd, double MyEd);
-// The same with the flange b x tf that the flange contribution takes, and `webs` webs of hw x tw
-// side by side in the web contribution and its upper bound (two in an HSQ or a box).
-std::string ShearResistancesOf(State& s, double NEd, double MyEd, double b, double tf, double webs);
+
+// The web panel of a girder in shear and the flanges that anchor its tension field.
+struct ShearPanel {
+  double hw = 0;    // the web height (the section's hw, or the clear depth where the rules say so)
+  double webs = 1;  // webs of hw x tw side by side in the web contribution and its bound
+  // The flange b x tf of the flange contribution and of the axial force's share.
+  double b = 0, tf = 0;
+  // A second flange: where bAlt > 0 the smaller of the two flanges' contributions counts.
+  double bAlt = 0, tfAlt = 0;
+  // False where no flange contribution exists (a web with one flange anchors no tension field).
+  bool flangeContribution = true;
+};
+
+// The same for a panel of the girders loaded in their web plane (HSQ, box, plates).
+std::string ShearResistancesOf(State& s, double NEd, double MyEd, const ShearPanel& panel);
 
 }  // namespace vn

@@ -246,11 +246,20 @@ void BucklingValues(State& s) {
   s.checks.ezb = c.ez;
 }
 
+double ShearWebHeight(const State& s) {
+  const Section& c = s.section;
+  const int type = s.project.ProfileType;
+  // The program's own method takes the HSQ's web as h - tf2 - tw, deeper than the web between the
+  // plates wherever the top plate is thicker than the web.
+  if (StrictRules(s) && (type == 24 || type == 25)) return ToSingle(static_cast<double>(c.h) - c.tf1 - c.tf2);
+  return c.hw;
+}
+
 void WebShearCapacity(State& s, double webs, bool stockyEta) {
   Section& c = s.section;
   const Project& p = s.project;
   const double fyk = p.fyk, g0 = p.gammaM0, g1 = p.gammaM1, eps = p.epsilon, neta = p.neta;
-  const double hw = c.hw, tw = c.tw;
+  const double hw = ShearWebHeight(s), tw = c.tw;
   const double sqrt3 = Sqrt(3);
   const Single webSlenderness = ToSingle(Div(hw, tw));
   const Single stockyLimit = ToSingle(Div(72 * eps, neta));

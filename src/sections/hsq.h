@@ -43,6 +43,9 @@ double ClassBoxY(State& s, double M);
 // the plastic area webs x (eta if `stockyEta`) x hw x tw, slender with the buckling factor chi_w of
 // the unstiffened web and gammaM1. Sets Avz, VzRd, VplRd, and VbzRd as the dialog shows it.
 void WebShearCapacity(State& s, double webs, bool stockyEta);
+// The web height of the shear rules: hw, but for an HSQ under the strict rules the clear depth
+// between the plates, h - tf1 - tf2 (EN 1993-1-1 6.2.6 (3), EN 1993-1-5 5.1).
+double ShearWebHeight(const State& s);
 
 // Shared with the plate families:
 // MelyRd, MplyRd and the effective pairs Weffy1, MeffyRd1 (the first pass), Weffy2, MeffyRd2.
