@@ -202,8 +202,13 @@ void BucklingControlPlate(State& s) {
   k.buckTextY = ControlText{};
   k.buckTextZ = ControlText{};
   k.buckTextLT = ControlText{};
-  // 2. The LT line alone, where the user has it on.
+  // 2. The LT line alone, where the free stiffener is compressed. The main form's state sets ltbOn
+  // from the sign of the governing moment at the end of each run, for the next one; a load that
+  // turns the moment over would have its tripping line only one event later, and the member would
+  // show no buckling line after its last input. The sign of this run's own moment decides here, and
+  // ltbOn with it, so that the summary's heading and the report agree with the line.
   double IRlt = 0;
+  s.project.ltbOn = s.analysis.MyGov < 0 ? 1 : 0;
   if (s.project.ltbOn == 1)
     LateralTorsionalLine(s, kBucklingStyleI, IRlt);
   else

@@ -127,21 +127,23 @@ TEST(PlatedControls, DispatcherRowsAndBucklingLines) {
   EXPECT_EQ(p.checks.xLT, 1);
 }
 
-// Through the forms: a hogging load on a plate turns the LT control on and prints its line; a
-// sagging one turns it off at the end of the run, and the next run prints no buckling block.
+// Through the forms: a hogging load on a plate prints the LT line in the run that the load itself
+// starts (the free stiffener compressed), a sagging one drops the buckling block in its own run too:
+// the last input never leaves a member without the line its moment calls for.
 TEST(PlatedControls, PlateBucklingBlockFollowsTheSignOfTheMoment) {
   State s = StartedState();
   Fire(s, "mnuplateFb");
   Fire(s, "CboLoadComb", "5");
+  Fire(s, "il", "4");
   Fire(s, "Loading.iq(1)", "-5");
-  Fire(s, "il", "4");
   EXPECT_EQ(s.project.ltbOn, 1);
-  Fire(s, "il", "4");
-  EXPECT_NE(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
+  EXPECT_NE(SummaryText(s).find("BUCKLING CONTROL: (incl Lateral Torsional Buckling)"), std::string::npos);
   EXPECT_FALSE(s.checks.buckTextLT.Formula.empty());
+  const std::string hogging = SummaryText(s);
+  Fire(s, "il", "4");
+  EXPECT_EQ(SummaryText(s), hogging);
 
   Fire(s, "Loading.iq(1)", "5");
-  Fire(s, "il", "4");
   EXPECT_EQ(s.project.ltbOn, 0);
   EXPECT_EQ(SummaryText(s).find("BUCKLING CONTROL:"), std::string::npos);
 
