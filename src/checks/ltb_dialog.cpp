@@ -50,6 +50,13 @@ EventResult NoSuchItem(const char* name, std::string_view text) {
   return r;
 }
 
+// The entries of the list of lateral restraints: "0" to "6".
+std::vector<std::string> RestraintCounts() {
+  std::vector<std::string> counts;
+  for (int i = 0; i <= 6; ++i) counts.push_back(std::to_string(i));
+  return counts;
+}
+
 }  // namespace
 
 void RefreshLtbDialog(State& s) {
@@ -61,9 +68,7 @@ void RefreshLtbDialog(State& s) {
     v.value[Key(("latbuckl" + std::to_string(i)).c_str())] = p.ltbCase == i ? 1 : 0;
     v.value[Key(("loadl" + std::to_string(i)).c_str())] = p.ltbLoadLevel == i ? 1 : 0;
   }
-  std::vector<std::string> counts;
-  for (int i = 0; i <= 6; ++i) counts.push_back(std::to_string(i));
-  v.items[Key("cbo")] = counts;
+  v.items[Key("cbo")] = RestraintCounts();
   v.value[Key("cbo")] = p.ltbRestraints;
 
   // The parts of the member between the restraints, the governing one chosen.
@@ -136,6 +141,7 @@ void RegisterBucklingControls(ControlTable& t) {
     s.project.ltbRestraints = static_cast<Integer>(index);
     return Changed(s);
   });
+  t.SetEntries(kForm, "cbo", [](const State&) { return RestraintCounts(); });
   for (int i = 1; i <= 4; ++i) {
     AddControl(t, kForm, "loadl" + std::to_string(i), [i](State& s, int, std::string_view) {
       s.project.ltbLoadLevel = static_cast<Integer>(i);

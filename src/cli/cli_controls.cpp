@@ -105,8 +105,7 @@ bool ResolveEventText(State& s, const std::string& control, std::string* text, s
   }
   *error = "varnelt-cli: " + control + " has no entry \"" + *text + "\"; its entries are:";
   for (size_t k = 0; k < entries.size(); ++k) *error += "\n  " + std::to_string(k) + "  " + entries[k];
-  if (entries.empty())
-    *error += " none yet (its dialog fills it when it opens: open it first, e.g. --do mnusetup)";
+  if (entries.empty()) *error += " none";
   return false;
 }
 

@@ -41,6 +41,10 @@ struct ControlEntry {
   ControlKind kind = ControlKind::Button;  // from the name where the registration does not say
   std::string format;                      // a numeric field's display format
   std::string limit;                       // a numeric field's warning text, the limit itself
+  // A list's entries as its form fills them, worked out from the state alone, so that an entry can
+  // be chosen by its text before the dialog has been opened; nullptr where the list has no fill
+  // of its own (a section dialog's catalogue list is filled by FillSectionList).
+  std::function<std::vector<std::string>(const State&)> entries;
 };
 
 // The kind a control's name gives it: i... a field, cbo... a list, ch_... a check box, mnu... a
@@ -68,6 +72,9 @@ class ControlTable {
   const ControlEntry* Find(std::string_view control, int* index) const;
   std::vector<std::string> Names() const;
   const std::vector<ControlEntry>& Entries() const { return entries_; }
+  // Gives the list `form.name` its entries (see ControlEntry::entries).
+  void SetEntries(std::string_view form, std::string_view name,
+                  std::function<std::vector<std::string>(const State&)> entries);
 
  private:
   std::vector<ControlEntry> entries_;

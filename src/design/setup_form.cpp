@@ -41,6 +41,12 @@ std::vector<std::string> GradeNames(const State& s) {
   return names;
 }
 
+std::vector<std::string> CodeNames() {
+  std::vector<std::string> codes;
+  for (int i = 0; i <= kCodeLast; ++i) codes.push_back(CodeDisplayName(i));
+  return codes;
+}
+
 int ViewValue(const State& s, const std::string& key) {
   auto it = s.view.value.find(key);
   return it == s.view.value.end() ? -1 : it->second;
@@ -169,9 +175,7 @@ void Activate(State& s) {
   v.text["setup.iLfSLS_Q2"] = F(p.LfSLS_Q2, "#0.00");
 
   // The two lists are refilled and set; a list set from empty runs its Click event.
-  std::vector<std::string> codes;
-  for (int i = 0; i <= kCodeLast; ++i) codes.push_back(CodeDisplayName(i));
-  v.items["setup.Cbo1993"] = codes;
+  v.items["setup.Cbo1993"] = CodeNames();
   v.value["setup.Cbo1993"] = -1;
   if (p.codeIndex >= 0 && p.codeIndex <= kCodeLast) OnCodeChoice(s, p.codeIndex);
   v.items["setup.cbofyk"] = GradeNames(s);
@@ -179,14 +183,10 @@ void Activate(State& s) {
   if (p.steelGrade >= 0 && p.steelGrade <= LastGradeRow(s)) OnSteelGradeChoice(s, p.steelGrade);
 
   v.text["setup.idef_limit"] = F(p.deflectionLimit, "#0");
-  std::vector<std::string> modes;
-  for (int i = 0; i < kLoadCombModes; ++i) modes.push_back(LoadCombText(i));
-  v.items["setup.CboLoadComb"] = modes;
+  v.items["setup.CboLoadComb"] = LoadCombEntries();
   v.value["setup.CboLoadComb"] = p.LoadCombMode;
-  std::vector<std::string> psi;
-  for (int i = 0; i < 10; ++i) psi.push_back(F(PsiOfIndex(i), "0.0"));
-  v.items["setup.Cbo_Q1_Psi1"] = psi;
-  v.items["setup.Cbo_Q2_Psi2"] = psi;
+  v.items["setup.Cbo_Q1_Psi1"] = PsiEntries(dc);
+  v.items["setup.Cbo_Q2_Psi2"] = PsiEntries(dc);
   v.value["setup.Cbo_Q1_Psi1"] = p.psiQ1Index;
   v.value["setup.Cbo_Q2_Psi2"] = p.psiQ2Index;
 }
@@ -307,6 +307,12 @@ void RegisterSetupControls(ControlTable& t) {
       return EventResult{};
     });
   }
+  // The lists' entries before the dialog has been opened.
+  t.SetEntries(kForm, "Cbo1993", [](const State&) { return CodeNames(); });
+  t.SetEntries(kForm, "CboLoadComb", [](const State&) { return LoadCombEntries(); });
+  t.SetEntries(kForm, "cbofyk", GradeNames);
+  for (const char* psi : {"Cbo_Q1_Psi1", "Cbo_Q2_Psi2"})
+    t.SetEntries(kForm, psi, [](const State& s) { return PsiEntries(s.decimalComma); });
 
   // Options.
   for (int method : {1, 2}) {
