@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "analysis/member_analysis.h"
+#include "core/captions.h"
 #include "core/events.h"
 #include "core/format.h"
 #include "core/recalculate.h"
@@ -171,8 +172,8 @@ void RefreshLoadTable(State& s) {
     v.text[Self("ipm_yz", i)] = moment ? (pl.Dir == 0 ? "Mz" : "My") : (pl.Dir == 0 ? "Y" : "Z");
     v.value[Self("ch_pm", i)] = pl.Checked != 0 ? 1 : 0;
   }
-  v.text["Loading.pmx"] = l.PointLoadXRelative != 0 ? "x/L" : "x(m)";
-  v.text["Loading.qtx"] = l.TrapezoidXRelative != 0 ? "x/L" : "x(m)";
+  v.text["Loading.pmx"] = PositionHeading(l.PointLoadXRelative != 0);
+  v.text["Loading.qtx"] = PositionHeading(l.TrapezoidXRelative != 0);
   v.value["Loading.pmxrelative"] = l.PointLoadXRelative != 0 ? 1 : 0;
   v.value["Loading.pmxabsolute"] = l.PointLoadXRelative != 0 ? 0 : 1;
   v.value["Loading.qtxrelative"] = l.TrapezoidXRelative != 0 ? 1 : 0;

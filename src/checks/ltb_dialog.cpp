@@ -178,11 +178,11 @@ void RegisterBucklingControls(ControlTable& t) {
     Recalculate(s);
     RefreshLtbDialog(s);
   };
-  AddNumericField(
-      t, kForm, "ic1",
-      {"#0.000", false, [](State& s, double v) { s.project.ltbC1 = v; },
-       [](const State& s) { return s.project.ltbC1; },
-       [](const State&, double v) { return v >= 0.2 && v <= 4; }, " 0.2 <= C1i <= 4 ", "vipping.ic2", after});
+  AddNumericField(t, kForm, "ic1",
+                  {"#0.000", false, [](State& s, double v) { s.project.ltbC1 = v; },
+                   [](const State& s) { return s.project.ltbC1; },
+                   [](const State&, double v) { return v >= 0.2 && v <= 4; }, " 0.2 <= C1i <= 4 ",
+                   "vipping.ic2", after, true, nullptr, "0.2 to 4"});
   // ic2 moves on to ic3 only where C3 means something.
   const NumericField ic2{"#0.000",
                          false,
@@ -191,7 +191,10 @@ void RegisterBucklingControls(ControlTable& t) {
                          [](const State&, double v) { return v >= 0 && v <= 4; },
                          " 0 <= C2i <= 4 ",
                          "vipping.ic1",
-                         after};
+                         after,
+                         true,
+                         nullptr,
+                         "0 to 4"};
   AddControl(t, kForm, "ic2", [ic2](State& s, int, std::string_view text) {
     NumericField f = ic2;
     if (s.project.ProfileType == 22) f.enter = "vipping.ic3";
@@ -199,11 +202,12 @@ void RegisterBucklingControls(ControlTable& t) {
     s.view.text[Key("ic2")] = r.text;
     return r;
   });
-  AddNumericField(
-      t, kForm, "ic3",
-      {"#0.000", false, [](State& s, double v) { s.project.ltbC3 = v; },
-       [](const State& s) { return s.project.ltbC3; },
-       [](const State&, double v) { return v >= 0 && v <= 4; }, " 0 <= C3i <= 4 ", "vipping.ic1", after});
+  t.SetField(kForm, "ic2", ic2);
+  AddNumericField(t, kForm, "ic3",
+                  {"#0.000", false, [](State& s, double v) { s.project.ltbC3 = v; },
+                   [](const State& s) { return s.project.ltbC3; },
+                   [](const State&, double v) { return v >= 0 && v <= 4; }, " 0 <= C3i <= 4 ", "vipping.ic1",
+                   after, true, nullptr, "0 to 4"});
   // Za in whole millimetres, with no test and no word on a bad text.
   NumericField iza{"#00",
                    true,

@@ -26,6 +26,16 @@ void ControlTable::SetEntries(std::string_view form, std::string_view name,
     if (e.form == form && e.name == name) e.entries = entries;
 }
 
+void ControlTable::SetField(std::string_view form, std::string_view name, const NumericField& f) {
+  for (ControlEntry& e : entries_) {
+    if (e.form != form || e.name != name) continue;
+    e.kind = ControlKind::Field;
+    e.format = f.format;
+    e.limit = f.valid ? f.message : std::string();
+    e.limits = f.limits;
+  }
+}
+
 const ControlEntry* ControlTable::Find(std::string_view control, int* index) const {
   std::string_view form, name = control;
   if (auto dot = control.find('.'); dot != std::string_view::npos) {
@@ -234,6 +244,7 @@ void AddNumericField(ControlTable& t, const std::string& form, const std::string
   e.kind = ControlKind::Field;
   e.format = f.format;
   e.limit = f.valid ? f.message : std::string();
+  e.limits = f.limits;
   t.Add(std::move(e));
 }
 

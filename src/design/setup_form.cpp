@@ -2,6 +2,7 @@
 // design basis. Every change goes into the record at once and recalculates; "Save as default"
 // writes the setup file.
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <functional>
 #include <limits>
@@ -207,6 +208,12 @@ NumericField Field(T Project::*member, const char* format, double lo, double hi,
   f.store = [member](State& s, double v) { s.project.*member = static_cast<T>(v); };
   f.value = [member](const State& s) { return static_cast<double>(s.project.*member); };
   f.valid = [lo, hi](const State&, double v) { return InRange(v, lo, hi); };
+  auto shortest = [](double v) {
+    std::string t = FormatNumber(v, "0.###", false);
+    if (!t.empty() && t.back() == '.') t.pop_back();
+    return t;
+  };
+  f.limits = std::isinf(hi) ? "at least " + shortest(lo) : shortest(lo) + " to " + shortest(hi);
   f.message = std::move(message);
   f.enter = "setup." + enter;
   f.after = std::move(after);
@@ -270,6 +277,7 @@ void RegisterSetupControls(ControlTable& t) {
       if (tested) Recalculate(s);
       return r;
     });
+    t.SetField(kForm, "iLfULS_Q2", f);
   }
   AddNumericField(t, kForm, "iLfSLS_G",
                   Field(&Project::LfSLS_G, "#0.00", 0, 4, lfMessage, "iLfSLS_Q1", AfterLoadFactor));
