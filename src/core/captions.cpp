@@ -369,7 +369,10 @@ bool SectionDialogCaption(std::string_view form, std::string_view name, ControlC
   }
   if (name == "cbo") {
     // The plate with a rolled stiffener chooses it from the list in the stiffener's frame.
-    if (d->type == 52 || d->type == 54) c->frame = "Stiffener:";
+    // Elsewhere it stands at the head of the dialog, under the family's name as its title.
+    c->frame = d->type == 52 || d->type == 54 ? std::string("Stiffener:")
+                                              : ShownText(CaptionOf("", d->menu).caption);
+    while (!c->frame.empty() && c->frame.back() == ' ') c->frame.pop_back();
     return true;
   }
   return false;
