@@ -4,6 +4,7 @@
 #include <string>
 
 #include "analysis/member_analysis.h"
+#include "core/captions.h"
 #include "core/control_registry.h"
 #include "core/events.h"
 #include "core/format.h"
@@ -142,7 +143,7 @@ void RefreshCheckPointTable(State& s) {
   }
   v.value["chpoints.cprelative"] = p.ChPointRelative != 0 ? 1 : 0;
   v.value["chpoints.cpabsolute"] = p.ChPointRelative != 0 ? 0 : 1;
-  v.text["chpoints.cpx"] = p.ChPointRelative != 0 ? "x/L" : "x(m)";
+  v.text["chpoints.cpx"] = PositionHeading(p.ChPointRelative != 0);
 }
 
 void RegisterAnalysisControls(ControlTable& t) {
@@ -218,6 +219,12 @@ void RegisterAnalysisControls(ControlTable& t) {
   }
   AddControl(
       t, cp, "icp", [](State& s, int i, std::string_view text) { return CheckPointField(s, i, text); }, 1, 3);
+  {
+    NumericField shown;
+    shown.format = "#0.000";
+    shown.limits = "0 to 1 as x/L, 0 to L in m";
+    t.SetField(cp, "icp", shown);
+  }
   AddControl(t, cp, "Activate", [](State& s, int, std::string_view) {
     RefreshCheckPointTable(s);
     return EventResult{};

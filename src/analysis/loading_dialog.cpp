@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "analysis/member_analysis.h"
+#include "core/captions.h"
 #include "core/events.h"
 #include "core/format.h"
 #include "core/recalculate.h"
@@ -171,19 +172,16 @@ void RefreshLoadTable(State& s) {
     v.text[Self("ipm_yz", i)] = moment ? (pl.Dir == 0 ? "Mz" : "My") : (pl.Dir == 0 ? "Y" : "Z");
     v.value[Self("ch_pm", i)] = pl.Checked != 0 ? 1 : 0;
   }
-  v.text["Loading.pmx"] = l.PointLoadXRelative != 0 ? "x/L" : "x(m)";
-  v.text["Loading.qtx"] = l.TrapezoidXRelative != 0 ? "x/L" : "x(m)";
+  v.text["Loading.pmx"] = PositionHeading(l.PointLoadXRelative != 0);
+  v.text["Loading.qtx"] = PositionHeading(l.TrapezoidXRelative != 0);
   v.value["Loading.pmxrelative"] = l.PointLoadXRelative != 0 ? 1 : 0;
   v.value["Loading.pmxabsolute"] = l.PointLoadXRelative != 0 ? 0 : 1;
   v.value["Loading.qtxrelative"] = l.TrapezoidXRelative != 0 ? 1 : 0;
   v.value["Loading.qtxabsolute"] = l.TrapezoidXRelative != 0 ? 0 : 1;
   v.value["Loading.check_selfweight"] = p.SelfweightOn == 1 ? 1 : 0;
-  std::vector<std::string> modes, psi;
-  for (int i = 0; i < kLoadCombModes; ++i) modes.push_back(LoadCombText(i));
-  for (int i = 0; i < 10; ++i) psi.push_back(F(PsiOfIndex(i), "0.0"));
-  v.items["Loading.CboLoadComb"] = modes;
-  v.items["Loading.Cbo_Q1_Psi1"] = psi;
-  v.items["Loading.Cbo_Q2_Psi2"] = psi;
+  v.items["Loading.CboLoadComb"] = LoadCombEntries();
+  v.items["Loading.Cbo_Q1_Psi1"] = PsiEntries(s.decimalComma);
+  v.items["Loading.Cbo_Q2_Psi2"] = PsiEntries(s.decimalComma);
   v.value["Loading.CboLoadComb"] = p.LoadCombMode;
   v.value["Loading.Cbo_Q1_Psi1"] = p.psiQ1Index;
   v.value["Loading.Cbo_Q2_Psi2"] = p.psiQ2Index;
@@ -301,6 +299,10 @@ void RegisterLoadingDialogControls(ControlTable& t) {
       return EventResult{};
     });
   }
+  // The lists' entries before the dialog has been opened.
+  t.SetEntries(kForm, "CboLoadComb", [](const State&) { return LoadCombEntries(); });
+  for (const char* psi : {"Cbo_Q1_Psi1", "Cbo_Q2_Psi2"})
+    t.SetEntries(kForm, psi, [](const State& s) { return PsiEntries(s.decimalComma); });
   AddControl(t, kForm, "check_selfweight", [](State& s, int, std::string_view text) {
     s.project.SelfweightOn = Ticked(text) ? 1 : 0;
     return Changed(s);

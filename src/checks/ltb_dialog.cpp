@@ -50,6 +50,13 @@ EventResult NoSuchItem(const char* name, std::string_view text) {
   return r;
 }
 
+// The entries of the list of lateral restraints: "0" to "6".
+std::vector<std::string> RestraintCounts() {
+  std::vector<std::string> counts;
+  for (int i = 0; i <= 6; ++i) counts.push_back(std::to_string(i));
+  return counts;
+}
+
 }  // namespace
 
 void RefreshLtbDialog(State& s) {
@@ -61,9 +68,7 @@ void RefreshLtbDialog(State& s) {
     v.value[Key(("latbuckl" + std::to_string(i)).c_str())] = p.ltbCase == i ? 1 : 0;
     v.value[Key(("loadl" + std::to_string(i)).c_str())] = p.ltbLoadLevel == i ? 1 : 0;
   }
-  std::vector<std::string> counts;
-  for (int i = 0; i <= 6; ++i) counts.push_back(std::to_string(i));
-  v.items[Key("cbo")] = counts;
+  v.items[Key("cbo")] = RestraintCounts();
   v.value[Key("cbo")] = p.ltbRestraints;
 
   // The parts of the member between the restraints, the governing one chosen.
@@ -147,6 +152,7 @@ void RegisterBucklingControls(ControlTable& t) {
     s.project.ltbRestraints = static_cast<Integer>(index);
     return Changed(s);
   });
+  t.SetEntries(kForm, "cbo", [](const State&) { return RestraintCounts(); });
   for (int i = 1; i <= 4; ++i) {
     AddControl(t, kForm, "loadl" + std::to_string(i), [i](State& s, int, std::string_view) {
       s.project.ltbLoadLevel = static_cast<Integer>(i);
@@ -190,11 +196,11 @@ void RegisterBucklingControls(ControlTable& t) {
     Recalculate(s);
     RefreshLtbDialog(s);
   };
-  AddNumericField(
-      t, kForm, "ic1",
-      {"#0.000", false, [](State& s, double v) { s.project.ltbC1 = v; },
-       [](const State& s) { return s.project.ltbC1; },
-       [](const State&, double v) { return v >= 0.2 && v <= 4; }, " 0.2 <= C1i <= 4 ", "vipping.ic2", after});
+  AddNumericField(t, kForm, "ic1",
+                  {"#0.000", false, [](State& s, double v) { s.project.ltbC1 = v; },
+                   [](const State& s) { return s.project.ltbC1; },
+                   [](const State&, double v) { return v >= 0.2 && v <= 4; }, " 0.2 <= C1i <= 4 ",
+                   "vipping.ic2", after, true, nullptr, "0.2 to 4"});
   // ic2 moves on to ic3 only where C3 means something.
   const NumericField ic2{"#0.000",
                          false,
@@ -203,7 +209,10 @@ void RegisterBucklingControls(ControlTable& t) {
                          [](const State&, double v) { return v >= 0 && v <= 4; },
                          " 0 <= C2i <= 4 ",
                          "vipping.ic1",
-                         after};
+                         after,
+                         true,
+                         nullptr,
+                         "0 to 4"};
   AddControl(t, kForm, "ic2", [ic2](State& s, int, std::string_view text) {
     NumericField f = ic2;
     if (s.project.ProfileType == 22) f.enter = "vipping.ic3";
@@ -211,11 +220,12 @@ void RegisterBucklingControls(ControlTable& t) {
     s.view.text[Key("ic2")] = r.text;
     return r;
   });
-  AddNumericField(
-      t, kForm, "ic3",
-      {"#0.000", false, [](State& s, double v) { s.project.ltbC3 = v; },
-       [](const State& s) { return s.project.ltbC3; },
-       [](const State&, double v) { return v >= 0 && v <= 4; }, " 0 <= C3i <= 4 ", "vipping.ic1", after});
+  t.SetField(kForm, "ic2", ic2);
+  AddNumericField(t, kForm, "ic3",
+                  {"#0.000", false, [](State& s, double v) { s.project.ltbC3 = v; },
+                   [](const State& s) { return s.project.ltbC3; },
+                   [](const State&, double v) { return v >= 0 && v <= 4; }, " 0 <= C3i <= 4 ", "vipping.ic1",
+                   after, true, nullptr, "0 to 4"});
   // Za in whole millimetres, with no test and no word on a bad text.
   NumericField iza{"#00",
                    true,

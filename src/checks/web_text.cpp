@@ -116,7 +116,8 @@ void RegisterControlsChecks(ControlTable& t) {
                   {"#0", false, [](State& s, double v) { s.project.a = static_cast<Single>(v); },
                    [](const State& s) { return double(s.project.a); },
                    [](const State& s, double v) { return v >= 100 && v <= 1000.0 * s.project.L; },
-                   " 100 < a < l ", "endstiff.cwebstiff1", [](State& s) { RunAndRefresh(s); }});
+                   " 100 < a < l ", "endstiff.cwebstiff1", [](State& s) { RunAndRefresh(s); }, true, nullptr,
+                   "100 to 1000 * L (mm; L in m)"});
 }
 
 }  // namespace vn

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/captions.h"
 #include "core/events.h"
 #include "core/format.h"
 #include "core/state.h"
@@ -36,8 +37,15 @@ std::string JsonText(const std::string& t) {
 }
 
 struct Listed {
-  std::string name, kind, dialog, unit, limit;
+  std::string name, kind, dialog, caption, frame, tip, unit, limits, limit;
 };
+
+// The caption as one text: the row's label before the column's ("ULS Permanent (G) =").
+std::string CaptionText(const ControlCaption& c) {
+  std::string row = Trim(ShownText(c.row)), caption = Trim(ShownText(c.caption));
+  if (row.empty()) return caption;
+  return caption.empty() ? row : row + " " + caption;
+}
 
 std::vector<Listed> List(State& s) {
   std::vector<Listed> out;
@@ -48,8 +56,13 @@ std::vector<Listed> List(State& s) {
       l.name += "(" + std::to_string(e.firstIndex) + ".." + std::to_string(e.lastIndex) + ")";
     l.kind = KindText(e.kind);
     l.dialog = e.form.empty() ? "main" : e.form;
+    const ControlCaption c = CaptionOf(e.form, e.name, &s);
+    l.caption = CaptionText(c);
+    l.frame = Trim(ShownText(c.frame));
+    l.tip = Trim(c.tip);
     l.unit = UnitOfField(s, e, e.firstIndex);
-    l.limit = Trim(e.limit);
+    l.limits = e.limits;
+    l.limit = e.limit;
     out.push_back(l);
   }
   return out;
@@ -70,8 +83,12 @@ std::string ControlsText(State& s) {
     std::string line = l.name + std::string(w[0] - l.name.size() + 2, ' ') + l.kind +
                        std::string(w[1] - l.kind.size() + 2, ' ') + l.dialog +
                        std::string(w[2] - l.dialog.size() + 2, ' ');
+    if (!l.caption.empty()) line += "\"" + l.caption + "\"  ";
+    if (!l.tip.empty()) line += "(" + l.tip + ")  ";
+    if (!l.frame.empty()) line += "in \"" + l.frame + "\"  ";
     if (!l.unit.empty()) line += "unit " + l.unit + "  ";
-    if (!l.limit.empty()) line += "valid: " + l.limit;
+    if (!l.limits.empty()) line += "limits " + l.limits + "  ";
+    if (!l.limit.empty()) line += "message \"" + l.limit + "\"";
     line.erase(line.find_last_not_of(' ') + 1);
     out += line + "\n";
   }
@@ -86,8 +103,12 @@ std::string ControlsJson(State& s) {
     first = false;
     out += "{\"name\":" + JsonText(l.name) + ",\"kind\":" + JsonText(l.kind) +
            ",\"dialog\":" + JsonText(l.dialog);
+    if (!l.caption.empty()) out += ",\"caption\":" + JsonText(l.caption);
+    if (!l.tip.empty()) out += ",\"tip\":" + JsonText(l.tip);
+    if (!l.frame.empty()) out += ",\"frame\":" + JsonText(l.frame);
     if (!l.unit.empty()) out += ",\"unit\":" + JsonText(l.unit);
-    if (!l.limit.empty()) out += ",\"valid\":" + JsonText(l.limit);
+    if (!l.limits.empty()) out += ",\"limits\":" + JsonText(l.limits);
+    if (!l.limit.empty()) out += ",\"message\":" + JsonText(l.limit);
     out += "}";
   }
   return out + "\n]";
@@ -105,8 +126,7 @@ bool ResolveEventText(State& s, const std::string& control, std::string* text, s
   }
   *error = "varnelt-cli: " + control + " has no entry \"" + *text + "\"; its entries are:";
   for (size_t k = 0; k < entries.size(); ++k) *error += "\n  " + std::to_string(k) + "  " + entries[k];
-  if (entries.empty())
-    *error += " none yet (its dialog fills it when it opens: open it first, e.g. --do mnusetup)";
+  if (entries.empty()) *error += " none";
   return false;
 }
 

@@ -20,6 +20,22 @@ void ControlTable::Add(ControlEntry e) {
   entries_.push_back(std::move(e));
 }
 
+void ControlTable::SetEntries(std::string_view form, std::string_view name,
+                              std::function<std::vector<std::string>(const State&)> entries) {
+  for (ControlEntry& e : entries_)
+    if (e.form == form && e.name == name) e.entries = entries;
+}
+
+void ControlTable::SetField(std::string_view form, std::string_view name, const NumericField& f) {
+  for (ControlEntry& e : entries_) {
+    if (e.form != form || e.name != name) continue;
+    e.kind = ControlKind::Field;
+    e.format = f.format;
+    e.limit = f.valid ? f.message : std::string();
+    e.limits = f.limits;
+  }
+}
+
 const ControlEntry* ControlTable::Find(std::string_view control, int* index) const {
   std::string_view form, name = control;
   if (auto dot = control.find('.'); dot != std::string_view::npos) {
@@ -228,6 +244,7 @@ void AddNumericField(ControlTable& t, const std::string& form, const std::string
   e.kind = ControlKind::Field;
   e.format = f.format;
   e.limit = f.valid ? f.message : std::string();
+  e.limits = f.limits;
   t.Add(std::move(e));
 }
 
@@ -260,11 +277,12 @@ bool EndsWith(std::string_view s, std::string_view suffix) {
   return s.size() >= suffix.size() && s.substr(s.size() - suffix.size()) == suffix;
 }
 
-// Case and blanks ignored: "IPE 360" and "ipe360" are the entry "IPE360".
+// Case and blanks ignored: "IPE 360" and "ipe360" are the entry "IPE360"; either decimal sign:
+// "0.7" is the psi entry "0,7" under the decimal comma.
 std::string Folded(std::string_view text) {
   std::string out;
   for (unsigned char ch : text)
-    if (!std::isspace(ch)) out += static_cast<char>(std::tolower(ch));
+    if (!std::isspace(ch)) out += ch == ',' ? '.' : static_cast<char>(std::tolower(ch));
   return out;
 }
 
@@ -359,6 +377,8 @@ std::vector<std::string> ListEntries(State& s, const ControlEntry& e) {
     }
     it = s.view.items.find(key);
   }
+  // A dialog not opened yet in this run has not filled its list: the entries it will show.
+  if ((it == s.view.items.end() || it->second.empty()) && e.entries) return e.entries(s);
   return it == s.view.items.end() ? std::vector<std::string>() : it->second;
 }
 

@@ -41,6 +41,11 @@ struct ControlEntry {
   ControlKind kind = ControlKind::Button;  // from the name where the registration does not say
   std::string format;                      // a numeric field's display format
   std::string limit;                       // a numeric field's warning text, the limit itself
+  std::string limits;                      // the range the field tests, as a person reads it
+  // A list's entries as its form fills them, worked out from the state alone, so that an entry can
+  // be chosen by its text before the dialog has been opened; nullptr where the list has no fill
+  // of its own (a section dialog's catalogue list is filled by FillSectionList).
+  std::function<std::vector<std::string>(const State&)> entries;
 };
 
 // The kind a control's name gives it: i... a field, cbo... a list, ch_... a check box, mnu... a
@@ -60,6 +65,8 @@ int ChoiceByText(State& s, const ControlEntry& e, std::string_view text, std::ve
 // The entries of a list as its form shows them (filling a section dialog's list if need be).
 std::vector<std::string> ListEntries(State& s, const ControlEntry& e);
 
+struct NumericField;
+
 class ControlTable {
  public:
   void Add(ControlEntry e);
@@ -68,6 +75,11 @@ class ControlTable {
   const ControlEntry* Find(std::string_view control, int* index) const;
   std::vector<std::string> Names() const;
   const std::vector<ControlEntry>& Entries() const { return entries_; }
+  // Gives a field registered with a handler of its own the kind, format, message and limits of `f`.
+  void SetField(std::string_view form, std::string_view name, const NumericField& f);
+  // Gives the list `form.name` its entries (see ControlEntry::entries).
+  void SetEntries(std::string_view form, std::string_view name,
+                  std::function<std::vector<std::string>(const State&)> entries);
 
  private:
   std::vector<ControlEntry> entries_;
@@ -92,6 +104,9 @@ struct NumericField {
   std::function<void(State&)> after;                 // what runs after a valid value
   bool mismatchMessage = true;                       // false: a mismatch shows nothing
   std::function<std::string(const State&)> enterFn;  // the Enter target where it depends on the state
+  // The range `valid` tests, bounds taken, as a person reads it ("0.5 to 1.5", "at least 0.05"):
+  // what --controls lists. It may be wider than the message says (beta passes up to 1).
+  std::string limits;
 };
 
 // The parse step of every numeric field: the typed text as a Single. A text that is no number in

@@ -103,7 +103,7 @@ void RegisterMainFormControls(ControlTable& t) {
                   {"#00", false, [](State& s, double v) { s.project.fyk = static_cast<Single>(v); },
                    [](const State& s) { return double(s.project.fyk); },
                    [](const State&, double v) { return v >= 50 && v <= 2000; }, " 50 <= fyk <= 2000 ", "il",
-                   AfterFykChange});
+                   AfterFykChange, true, nullptr, "50 to 2000"});
   AddNumericField(t, "", "il",
                   {"#0.000", false, [](State& s, double v) { s.project.L = static_cast<Single>(v); },
                    [](const State& s) { return double(s.project.L); },
@@ -113,7 +113,8 @@ void RegisterMainFormControls(ControlTable& t) {
                      auto shown = s.view.visible.find("columnframe");
                      return shown == s.view.visible.end() || shown->second ? std::string("ibly")
                                                                            : std::string("iproj");
-                   }});
+                   },
+                   "at least 0.05"});
   AddNumericField(
       t, "", "ibly",
       {"#0.00", false, [](State& s, double v) { s.project.bucklingFactorY = static_cast<Single>(v); },
@@ -122,7 +123,8 @@ void RegisterMainFormControls(ControlTable& t) {
        [](State& s) {
          s.project.bucklingCaseY = 6;
          Recalculate(s);
-       }});
+       },
+       true, nullptr, "at least 0.2"});
   AddNumericField(
       t, "", "iblz",
       {"#0.00", false, [](State& s, double v) { s.project.bucklingFactorZ = static_cast<Single>(v); },
@@ -131,18 +133,19 @@ void RegisterMainFormControls(ControlTable& t) {
        [](State& s) {
          s.project.bucklingCaseZ = 6;
          Recalculate(s);
-       }});
+       },
+       true, nullptr, "at least 0.2"});
   AddNumericField(t, "", "ispring",
                   {"#0", true, [](State& s, double v) { s.project.SpringPct = static_cast<Integer>(v); },
                    [](const State& s) { return double(s.project.SpringPct); },
                    [](const State&, double v) { return v >= 0 && v <= 100; }, " 1 < Spring-restraint  > 99 ",
-                   "il", nullptr});
+                   "il", nullptr, true, nullptr, "0 to 100"});
   AddNumericField(
       t, "", "idef_limit",
       {"#0", true, [](State& s, double v) { s.project.deflectionLimit = static_cast<Integer>(v); },
        [](const State& s) { return double(s.project.deflectionLimit); },
        [](const State&, double v) { return v >= 100 && v <= 1500; }, "100 <= Deflection <=1500 ", "ch_modal",
-       nullptr});
+       nullptr, true, nullptr, "100 to 1500"});
 
   // Enter on the spring button confirms the spring value typed in ispring, with a narrower range
   // than leaving the field: the event's text is that value (no text is a click).

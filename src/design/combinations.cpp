@@ -1,6 +1,8 @@
 // Load combinations of EN 1990 for each code and class: the factors the member analysis multiplies
 // the load cases G, Q1 and Q2 with, and the formula texts of the Setup dialog, the Loading dialog
 // and the report.
+#include <cctype>
+
 #include "core/format.h"
 #include "core/recalculate.h"
 #include "core/state.h"
@@ -54,6 +56,33 @@ bool KfiOnPermanent(int codeIndex) { return codeIndex == 2 || codeIndex == 3 || 
 std::string LoadCombText(int mode) { return mode >= 0 && mode < kLoadCombModes ? kLoadCombTexts[mode] : ""; }
 
 Single PsiOfIndex(int index) { return static_cast<Single>((index + 1) * 0.1); }
+
+std::vector<std::string> LoadCombEntries() {
+  std::vector<std::string> modes;
+  for (int i = 0; i < kLoadCombModes; ++i) modes.push_back(LoadCombText(i));
+  return modes;
+}
+
+std::vector<std::string> PsiEntries(bool decimalComma) {
+  std::vector<std::string> psi;
+  for (int i = 0; i < 10; ++i) psi.push_back(FormatNumber(PsiOfIndex(i), "0.0", decimalComma));
+  return psi;
+}
+
+namespace {
+
+// The decimal points of the factors after "LC =" written as commas.
+std::string CommaInFormula(std::string text) {
+  const size_t start = text.find("LC =");
+  if (start == std::string::npos) return text;
+  for (size_t i = start + 1; i + 1 < text.size(); ++i)
+    if (text[i] == '.' && std::isdigit(static_cast<unsigned char>(text[i - 1])) &&
+        std::isdigit(static_cast<unsigned char>(text[i + 1])))
+      text[i] = ',';
+  return text;
+}
+
+}  // namespace
 
 void SetCombinationFactors(State& s, int codeIndex) {
   if (codeIndex < 0 || codeIndex > kCodeLast) return;
@@ -114,6 +143,11 @@ void SetCombinationFactors(State& s, int codeIndex) {
       break;
   }
   c.textSLS = "SLS: Eq 6.14a: LC = G + Q1 + " + psi2 + "*Q2";
+  // Under the decimal comma the fixed factors of a formula (1.35, 1.5, 1.1) take it too, as its psi
+  // and k do: "1.35*G + 1.5*0,7*Q2" would mix the two signs in one line. The equation's number
+  // before "LC =" is a clause, not a number, and keeps its point.
+  if (dc)
+    for (std::string* text : {&c.text610, &c.text610a, &c.text610b}) *text = CommaInFormula(*text);
 }
 
 void BuildLoadFactorTexts(State& s) {

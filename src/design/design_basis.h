@@ -48,6 +48,10 @@ inline constexpr int kLoadCombModes = 6;
 
 // psi of a list index of Cbo_Q1_Psi1 / Cbo_Q2_Psi2: (index + 1) * 0.1.
 Single PsiOfIndex(int index);
+// The entries of the lists CboLoadComb (the six modes) and Cbo_Q1_Psi1 / Cbo_Q2_Psi2 ("0.1" to
+// "1.0"), as the Setup and Loading dialogs fill them.
+std::vector<std::string> LoadCombEntries();
+std::vector<std::string> PsiEntries(bool decimalComma);
 // Combination factors and texts of a code; an index outside 0..8 changes nothing.
 void SetCombinationFactors(State& s, int codeIndex);
 // The texts of the modes "ULS/SLS" and "Basic loads", from the user's load factors.

@@ -2,6 +2,7 @@
 // design basis. Every change goes into the record at once and recalculates; "Save as default"
 // writes the setup file.
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <functional>
 #include <limits>
@@ -39,6 +40,12 @@ std::vector<std::string> GradeNames(const State& s) {
   std::vector<std::string> names;
   for (int i = 0; i <= LastGradeRow(s); ++i) names.push_back(s.steel.rows[static_cast<size_t>(i)].name);
   return names;
+}
+
+std::vector<std::string> CodeNames() {
+  std::vector<std::string> codes;
+  for (int i = 0; i <= kCodeLast; ++i) codes.push_back(CodeDisplayName(i));
+  return codes;
 }
 
 int ViewValue(const State& s, const std::string& key) {
@@ -169,9 +176,7 @@ void Activate(State& s) {
   v.text["setup.iLfSLS_Q2"] = F(p.LfSLS_Q2, "#0.00");
 
   // The two lists are refilled and set; a list set from empty runs its Click event.
-  std::vector<std::string> codes;
-  for (int i = 0; i <= kCodeLast; ++i) codes.push_back(CodeDisplayName(i));
-  v.items["setup.Cbo1993"] = codes;
+  v.items["setup.Cbo1993"] = CodeNames();
   v.value["setup.Cbo1993"] = -1;
   if (p.codeIndex >= 0 && p.codeIndex <= kCodeLast) OnCodeChoice(s, p.codeIndex);
   v.items["setup.cbofyk"] = GradeNames(s);
@@ -179,14 +184,10 @@ void Activate(State& s) {
   if (p.steelGrade >= 0 && p.steelGrade <= LastGradeRow(s)) OnSteelGradeChoice(s, p.steelGrade);
 
   v.text["setup.idef_limit"] = F(p.deflectionLimit, "#0");
-  std::vector<std::string> modes;
-  for (int i = 0; i < kLoadCombModes; ++i) modes.push_back(LoadCombText(i));
-  v.items["setup.CboLoadComb"] = modes;
+  v.items["setup.CboLoadComb"] = LoadCombEntries();
   v.value["setup.CboLoadComb"] = p.LoadCombMode;
-  std::vector<std::string> psi;
-  for (int i = 0; i < 10; ++i) psi.push_back(F(PsiOfIndex(i), "0.0"));
-  v.items["setup.Cbo_Q1_Psi1"] = psi;
-  v.items["setup.Cbo_Q2_Psi2"] = psi;
+  v.items["setup.Cbo_Q1_Psi1"] = PsiEntries(dc);
+  v.items["setup.Cbo_Q2_Psi2"] = PsiEntries(dc);
   v.value["setup.Cbo_Q1_Psi1"] = p.psiQ1Index;
   v.value["setup.Cbo_Q2_Psi2"] = p.psiQ2Index;
 }
@@ -207,6 +208,12 @@ NumericField Field(T Project::*member, const char* format, double lo, double hi,
   f.store = [member](State& s, double v) { s.project.*member = static_cast<T>(v); };
   f.value = [member](const State& s) { return static_cast<double>(s.project.*member); };
   f.valid = [lo, hi](const State&, double v) { return InRange(v, lo, hi); };
+  auto shortest = [](double v) {
+    std::string t = FormatNumber(v, "0.###", false);
+    if (!t.empty() && t.back() == '.') t.pop_back();
+    return t;
+  };
+  f.limits = std::isinf(hi) ? "at least " + shortest(lo) : shortest(lo) + " to " + shortest(hi);
   f.message = std::move(message);
   f.enter = "setup." + enter;
   f.after = std::move(after);
@@ -270,6 +277,7 @@ void RegisterSetupControls(ControlTable& t) {
       if (tested) Recalculate(s);
       return r;
     });
+    t.SetField(kForm, "iLfULS_Q2", f);
   }
   AddNumericField(t, kForm, "iLfSLS_G",
                   Field(&Project::LfSLS_G, "#0.00", 0, 4, lfMessage, "iLfSLS_Q1", AfterLoadFactor));
@@ -307,6 +315,12 @@ void RegisterSetupControls(ControlTable& t) {
       return EventResult{};
     });
   }
+  // The lists' entries before the dialog has been opened.
+  t.SetEntries(kForm, "Cbo1993", [](const State&) { return CodeNames(); });
+  t.SetEntries(kForm, "CboLoadComb", [](const State&) { return LoadCombEntries(); });
+  t.SetEntries(kForm, "cbofyk", GradeNames);
+  for (const char* psi : {"Cbo_Q1_Psi1", "Cbo_Q2_Psi2"})
+    t.SetEntries(kForm, psi, [](const State& s) { return PsiEntries(s.decimalComma); });
 
   // Options.
   for (int method : {1, 2}) {

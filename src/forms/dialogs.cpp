@@ -20,6 +20,7 @@
 #include <cmath>
 #include <functional>
 
+#include "core/captions.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
 #include "forms/painter_canvas.h"
@@ -38,6 +39,25 @@ namespace {
 
 // ---- Widgets bound to controls ----
 
+// The captions come from the core's table of captions, the one the command line lists.
+std::string Bare(const std::string& control) { return control.substr(0, control.find('(')); }
+QString CaptionText(FormDialog* d, const std::string& control) {
+  return QString::fromStdString(CaptionOf(d->form(), Bare(control)).caption);
+}
+// A label shows its text as it stands: no accelerator marks.
+QString LabelText(FormDialog* d, const std::string& control) {
+  return QString::fromStdString(ShownText(CaptionOf(d->form(), Bare(control)).caption));
+}
+QString FrameText(FormDialog* d, const std::string& control) {
+  return QString::fromStdString(CaptionOf(d->form(), Bare(control)).frame);
+}
+QString RowText(FormDialog* d, const std::string& control) {
+  return QString::fromStdString(CaptionOf(d->form(), Bare(control)).row);
+}
+QString TipText(FormDialog* d, const std::string& control) {
+  return QString::fromStdString(CaptionOf(d->form(), Bare(control)).tip);
+}
+
 QLineEdit* NumberField(FormDialog* d, const std::string& control, int width = 56) {
   auto* e = new QLineEdit;
   e->setAlignment(Qt::AlignRight);
@@ -54,21 +74,21 @@ QComboBox* List(FormDialog* d, const std::string& control, int minimumChars = 0)
   return box;
 }
 
-QCheckBox* Check(FormDialog* d, const std::string& control, const QString& caption = {}) {
-  auto* box = new QCheckBox(caption);
+QCheckBox* Check(FormDialog* d, const std::string& control) {
+  auto* box = new QCheckBox(CaptionText(d, control));
   d->bindings()->check(box, d->key(control));
   return box;
 }
 
 // An option whose own value says whether it is set (view.value["setup.rbtnMethod1"] == 1).
-QRadioButton* Option(FormDialog* d, const std::string& control, const QString& caption) {
-  auto* b = new QRadioButton(caption);
+QRadioButton* Option(FormDialog* d, const std::string& control) {
+  auto* b = new QRadioButton(CaptionText(d, control));
   d->bindings()->option(b, d->key(control), d->key(control), 1);
   return b;
 }
 
-QPushButton* Button(FormDialog* d, const std::string& control, const QString& caption, int width = 0) {
-  auto* b = new QPushButton(caption);
+QPushButton* Button(FormDialog* d, const std::string& control, int width = 0) {
+  auto* b = new QPushButton(CaptionText(d, control));
   b->setAutoDefault(false);
   if (width > 0) b->setFixedWidth(width);
   d->bindings()->button(b, d->key(control));
@@ -130,20 +150,20 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   main->setVerticalSpacing(8);
 
   // EN 1993-1-1 and the national annex.
-  auto* code = Group("EN 1993-1-1 National Annex Settings");
+  auto* code = Group(FrameText(d, "Cbo1993"));
   auto* cl = Inside<QVBoxLayout>(code);
   cl->addWidget(List(d, "Cbo1993", 22));
-  auto* partial = Group("Partial factors (ch 6.1)");
+  auto* partial = Group(FrameText(d, "igammam0"));
   auto* pl = Inside<QGridLayout>(partial);
-  pl->addWidget(new QLabel("Section Control:   gm0 ="), 0, 0);
+  pl->addWidget(new QLabel(LabelText(d, "igammam0")), 0, 0);
   pl->addWidget(NumberField(d, "igammam0"), 0, 1);
-  pl->addWidget(new QLabel("Buckling Control:  gm1 ="), 1, 0);
+  pl->addWidget(new QLabel(LabelText(d, "igammam1")), 1, 0);
   pl->addWidget(NumberField(d, "igammam1"), 1, 1);
   pl->setColumnStretch(2, 1);
   cl->addWidget(partial);
-  auto* shear = Group("Shear acc to 6.2.6 (3)");
+  auto* shear = Group(FrameText(d, "ineta"));
   auto* sl = Inside<QHBoxLayout>(shear);
-  sl->addWidget(new QLabel("Factor  n ="));
+  sl->addWidget(new QLabel(LabelText(d, "ineta")));
   sl->addWidget(NumberField(d, "ineta"));
   sl->addSpacing(8);
   QLabel* see = Note("See EN 1993-1-5, ch 5.1");
@@ -151,34 +171,33 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   sl->addWidget(see);
   sl->addStretch();
   cl->addWidget(shear);
-  auto* lt = Group("Parameters lamdaLT0 && beta");
+  auto* lt = Group(FrameText(d, "ilamdaLT0"));
   auto* ll = Inside<QGridLayout>(lt);
-  ll->addWidget(new QLabel("lamdaLT,0 ="), 0, 1, Qt::AlignCenter);
-  ll->addWidget(new QLabel("beta ="), 0, 2, Qt::AlignCenter);
-  const char* rows[2][3] = {{"  Rolled I-section", "ilamdaLT0", "ibeta"},
-                            {"  Welded     I-section", "ilamdaLT0w", "ibetaw"}};
+  ll->addWidget(new QLabel(LabelText(d, "ilamdaLT0")), 0, 1, Qt::AlignCenter);
+  ll->addWidget(new QLabel(LabelText(d, "ibeta")), 0, 2, Qt::AlignCenter);
+  const char* rows[2][2] = {{"ilamdaLT0", "ibeta"}, {"ilamdaLT0w", "ibetaw"}};
   for (int r = 0; r < 2; ++r) {
-    ll->addWidget(new QLabel(rows[r][0]), r + 1, 0);
-    QLineEdit* lamda = NumberField(d, rows[r][1]);
-    lamda->setToolTip(" Recommended maximum value 0.4 ");
-    QLineEdit* beta = NumberField(d, rows[r][2]);
-    beta->setToolTip(" Recommended minimum value 0.75 ");
+    ll->addWidget(new QLabel(RowText(d, rows[r][0])), r + 1, 0);
+    QLineEdit* lamda = NumberField(d, rows[r][0]);
+    lamda->setToolTip(TipText(d, rows[r][0]));
+    QLineEdit* beta = NumberField(d, rows[r][1]);
+    beta->setToolTip(TipText(d, rows[r][1]));
     ll->addWidget(lamda, r + 1, 1);
     ll->addWidget(beta, r + 1, 2);
   }
   ll->setColumnStretch(3, 1);
   cl->addWidget(lt);
-  auto* interaction = Group("Interaction factors (ref ch 6.3.3)");
+  auto* interaction = Group(FrameText(d, "rbtnMethod1"));
   auto* il = Inside<QVBoxLayout>(interaction);
-  il->addWidget(Option(d, "rbtnMethod1", "According to Method 1"));
-  il->addWidget(Option(d, "rbtnMethod2", "According to Method 2"));
+  il->addWidget(Option(d, "rbtnMethod1"));
+  il->addWidget(Option(d, "rbtnMethod2"));
   il->addWidget(Note(" Valid for Double Symmetric Profiles "));
   cl->addWidget(interaction);
   cl->addWidget(Note("Parameters can only be changed when using EC3 - User defined"));
   cl->addStretch();
 
   // Load combinations.
-  auto* comb = Group("Load Combinations");
+  auto* comb = Group(FrameText(d, "CboLoadComb"));
   auto* co = Inside<QVBoxLayout>(comb);
   co->addWidget(List(d, "CboLoadComb", 18));
   auto* formulas = new QListWidget;
@@ -187,87 +206,84 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   formulas->setMinimumWidth(formulas->fontMetrics().horizontalAdvance(QString(60, 'x')));
   d->bindings()->lines(formulas, d->key("lstCombination"));
   co->addWidget(formulas);
-  auto* norway = Group("Reliability Class (EN 1990)", "setup.frSafetyNorway");
+  auto* norway = Group(FrameText(d, "rbtnSafetyNorwayClass1"), "setup.frSafetyNorway");
   d->bindings()->frame(norway, d->key("frSafetyNorway"));
   auto* nl = Inside<QHBoxLayout>(norway);
-  nl->addWidget(Option(d, "rbtnSafetyNorwayClass1", "1"));
-  nl->addWidget(Option(d, "rbtnSafetyNorwayClass24", "2-4"));
+  nl->addWidget(Option(d, "rbtnSafetyNorwayClass1"));
+  nl->addWidget(Option(d, "rbtnSafetyNorwayClass24"));
   nl->addStretch();
   co->addWidget(norway);
-  auto* safety = Group("Safety Class (EN 1990)", "setup.frSafetyClass");
+  auto* safety = Group(FrameText(d, "rbtnSafetyClass1"), "setup.frSafetyClass");
   d->bindings()->frame(safety, d->key("frSafetyClass"));
   auto* scl = Inside<QHBoxLayout>(safety);
-  for (int c = 1; c <= 3; ++c)
-    scl->addWidget(Option(d, "rbtnSafetyClass" + std::to_string(c), QString::number(c)));
+  for (int c = 1; c <= 3; ++c) scl->addWidget(Option(d, "rbtnSafetyClass" + std::to_string(c)));
   scl->addStretch();
   co->addWidget(safety);
-  auto* psi = Group("EN 1990 - Psi factors for Q-loads", "setup.frPsi");
+  auto* psi = Group(FrameText(d, "Cbo_Q1_Psi1"), "setup.frPsi");
   d->bindings()->frame(psi, d->key("frPsi"));
   auto* ps = Inside<QGridLayout>(psi);
-  ps->addWidget(new QLabel("Q1 ="), 0, 0);
+  ps->addWidget(new QLabel(LabelText(d, "Cbo_Q1_Psi1")), 0, 0);
   ps->addWidget(List(d, "Cbo_Q1_Psi1", 4), 0, 1);
   ps->addWidget(new QLabel("Main "), 0, 2);
-  ps->addWidget(new QLabel("Q2 ="), 1, 0);
+  ps->addWidget(new QLabel(LabelText(d, "Cbo_Q2_Psi2")), 1, 0);
   ps->addWidget(List(d, "Cbo_Q2_Psi2", 4), 1, 1);
   ps->addWidget(new QLabel("Secondary "), 1, 2);
-  ps->addWidget(Button(d, "cmdPsi", "Psi-factors..."), 0, 3, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
+  ps->addWidget(Button(d, "cmdPsi"), 0, 3, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
   ps->setColumnStretch(3, 1);
   co->addWidget(psi);
-  auto* uls = Group("ULS/SLS Loadfactors", "setup.frULS");
+  auto* uls = Group(FrameText(d, "iLfULS_G"), "setup.frULS");
   d->bindings()->frame(uls, d->key("frULS"));
   auto* ul = Inside<QGridLayout>(uls);
-  const char* columns[3] = {"Permanent (G) =", "Variable (Q1) =", "Variable (Q2) ="};
   const char* fields[2][3] = {{"iLfULS_G", "iLfULS_Q1", "iLfULS_Q2"}, {"iLfSLS_G", "iLfSLS_Q1", "iLfSLS_Q2"}};
-  for (int c = 0; c < 3; ++c) ul->addWidget(new QLabel(columns[c]), 0, c + 1, Qt::AlignCenter);
-  ul->addWidget(new QLabel("ULS"), 1, 0);
-  ul->addWidget(new QLabel("SLS"), 2, 0);
+  for (int c = 0; c < 3; ++c)
+    ul->addWidget(new QLabel(LabelText(d, fields[0][c])), 0, c + 1, Qt::AlignCenter);
+  ul->addWidget(new QLabel(RowText(d, fields[0][0])), 1, 0);
+  ul->addWidget(new QLabel(RowText(d, fields[1][0])), 2, 0);
   for (int r = 0; r < 2; ++r)
     for (int c = 0; c < 3; ++c)
       ul->addWidget(NumberField(d, fields[r][c], 48), r + 1, c + 1, Qt::AlignCenter);
-  ul->addWidget(Button(d, "cmdULS", "Partial factors..."), 3, 1, 1, 3, Qt::AlignRight);
+  ul->addWidget(Button(d, "cmdULS"), 3, 1, 1, 3, Qt::AlignRight);
   co->addWidget(uls);
   co->addStretch();
 
-  auto* sls = Group("Deflection Control (SLS)");
+  auto* sls = Group(FrameText(d, "idef_limit"));
   auto* dl = Inside<QHBoxLayout>(sls);
-  dl->addWidget(new QLabel("Deflection limit: L/"));
+  dl->addWidget(new QLabel(LabelText(d, "idef_limit")));
   dl->addWidget(NumberField(d, "idef_limit", 48));
   dl->addStretch();
 
-  auto* material = Group("Material  (MPa)");
+  auto* material = Group(FrameText(d, "ifyk"));
   auto* ml = Inside<QHBoxLayout>(material);
   ml->addWidget(List(d, "cbofyk", 8), 1);
-  ml->addWidget(new QLabel("fyk ="));
+  ml->addWidget(new QLabel(LabelText(d, "ifyk")));
   ml->addWidget(NumberField(d, "ifyk", 48));
-  ml->addWidget(new QLabel(" E ="));
+  ml->addWidget(new QLabel(LabelText(d, "ie")));
   ml->addWidget(NumberField(d, "ie", 64));
 
   auto* other = Group("Other setup");
   auto* ol = Inside<QVBoxLayout>(other);
-  auto* minor = Group("Minor Axial Forces (N) and Moments (M)");
+  auto* minor = Group(FrameText(d, "iuflimit"));
   auto* mnl = Inside<QHBoxLayout>(minor);
-  auto* minorText = new QLabel(
-      "Exclude Axial Force (N) and Moment (M) in interaction formula if  N/N and/or  M/M  is less "
-      "than  ");
+  auto* minorText = new QLabel(LabelText(d, "iuflimit"));
   minorText->setWordWrap(true);
   mnl->addWidget(minorText, 1);
   mnl->addWidget(NumberField(d, "iuflimit", 48), 0, Qt::AlignBottom);
   ol->addWidget(minor);
-  auto* section = Group("Section Control (ref ch 6.2.1)");
+  auto* section = Group(FrameText(d, "CheckElastic"));
   auto* scl2 = Inside<QVBoxLayout>(section);
-  scl2->addWidget(Check(d, "CheckConserControl", "Conservative control for N+My-Mz "));
+  scl2->addWidget(Check(d, "CheckConserControl"));
   scl2->addWidget(Note(" Valid for Double Symmetric Profiles "));
-  scl2->addWidget(Check(d, "CheckElastic", "Cross Section Class 1-2:  Elastic design"));
+  scl2->addWidget(Check(d, "CheckElastic"));
   ol->addWidget(section);
-  auto* class4 = Group("Section class 4: Local buckling of flange/web");
+  auto* class4 = Group(FrameText(d, "CheckWebbuck"));
   auto* c4 = Inside<QVBoxLayout>(class4);
-  c4->addWidget(Check(d, "CheckFlangebuck", "Flange buckling not taken into account"));
-  c4->addWidget(Check(d, "CheckWebbuck", "Web buckling not taken into account"));
+  c4->addWidget(Check(d, "CheckFlangebuck"));
+  c4->addWidget(Check(d, "CheckWebbuck"));
   ol->addWidget(class4);
-  auto* rules = Group("Rules");
+  auto* rules = Group(FrameText(d, "rbtnRulesStrict"));
   auto* rl = Inside<QVBoxLayout>(rules);
-  rl->addWidget(Option(d, "rbtnRulesSpecified", "as specified"));
-  rl->addWidget(Option(d, "rbtnRulesStrict", "EN 1993 strict"));
+  rl->addWidget(Option(d, "rbtnRulesSpecified"));
+  rl->addWidget(Option(d, "rbtnRulesStrict"));
   rl->addWidget(Note(" See the help page Departures "));
   ol->addWidget(rules);
   ol->addStretch();
@@ -280,7 +296,7 @@ FormDialog* SetupDialog(Session* s, QWidget* owner) {
   main->addLayout(right, 0, 1);
   right->addStretch();
   main->addWidget(other, 0, 2);
-  main->addLayout(Foot({Button(d, "Command2", "Save as default")}, d->closeButton()), 1, 0, 1, 3);
+  main->addLayout(Foot({Button(d, "Command2")}, d->closeButton()), 1, 0, 1, 3);
   return d;
 }
 
@@ -293,7 +309,7 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
 
   // The combination and its psi factors.
   auto* top = new QHBoxLayout;
-  auto* comb = Group("Load Combinations (LC)");
+  auto* comb = Group(FrameText(d, "CboLoadComb"));
   auto* cl = Inside<QVBoxLayout>(comb);
   cl->addWidget(List(d, "CboLoadComb", 18));
   auto* formulas = new QListWidget;
@@ -304,36 +320,37 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
   d->bindings()->lines(formulas, d->key("lstCombination"));
   cl->addWidget(formulas);
   top->addWidget(comb, 3);
-  auto* psi = Group("EN 1990 - Psi factors for Q-loads", "Loading.frPsi");
+  auto* psi = Group(FrameText(d, "Cbo_Q1_Psi1"), "Loading.frPsi");
   d->bindings()->frame(psi, d->key("frPsi"));
   auto* ps = Inside<QGridLayout>(psi);
-  ps->addWidget(new QLabel("Q1 ="), 0, 0);
+  ps->addWidget(new QLabel(LabelText(d, "Cbo_Q1_Psi1")), 0, 0);
   ps->addWidget(List(d, "Cbo_Q1_Psi1", 4), 0, 1);
   ps->addWidget(new QLabel("Main "), 0, 2);
-  ps->addWidget(new QLabel("Q2 ="), 1, 0);
+  ps->addWidget(new QLabel(LabelText(d, "Cbo_Q2_Psi2")), 1, 0);
   ps->addWidget(List(d, "Cbo_Q2_Psi2", 4), 1, 1);
   ps->addWidget(new QLabel("Secondary "), 1, 2);
-  auto* help = Button(d, "Command3", "Psi-factors...");
+  auto* help = Button(d, "Command3");
   ps->addWidget(help, 2, 0, 1, 3);
   top->addWidget(psi, 2);
   main->addLayout(top);
-  main->addWidget(Check(d, "check_selfweight", "Include Selfweight - z-dir"));
+  main->addWidget(Check(d, "check_selfweight"));
 
   // A tick in front of each row, seen and counted in "Basic loads" only: each tick follows the
   // visibility of its table's frame of ticks (frN, frq, frqt, frPM).
 
-  auto caseButton = [d](const std::string& control) { return Button(d, control, "G", 34); };
-  auto dirButton = [d](const std::string& control) { return Button(d, control, "Z", 34); };
+  // A case or direction cell shows its value (view.text) in place of the column's caption.
+  auto caseButton = [d](const std::string& control) { return Button(d, control, 34); };
+  auto dirButton = [d](const std::string& control) { return Button(d, control, 34); };
 
   auto* tables = new QGridLayout;
   tables->setHorizontalSpacing(8);
   tables->setVerticalSpacing(6);
 
   // Axial forces.
-  auto* axial = Group("Axial Force ");
+  auto* axial = Group(FrameText(d, "inn"));
   auto* ag = Inside<QGridLayout>(axial);
-  ag->addWidget(new QLabel("N (kN)"), 0, 1, Qt::AlignCenter);
-  ag->addWidget(new QLabel("LC"), 0, 2, Qt::AlignCenter);
+  ag->addWidget(new QLabel(LabelText(d, "inn")), 0, 1, Qt::AlignCenter);
+  ag->addWidget(new QLabel(LabelText(d, "inn_gq")), 0, 2, Qt::AlignCenter);
   for (int i = 1; i <= 3; ++i) {
     QCheckBox* tick = Check(d, Slot("ch_nn", i));
     d->bindings()->frame(tick, d->key("frN"));
@@ -345,11 +362,11 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
   tables->addWidget(axial, 0, 0);
 
   // Uniform loads.
-  auto* uniform = Group("q-load");
+  auto* uniform = Group(FrameText(d, "iq"));
   auto* ug = Inside<QGridLayout>(uniform);
-  ug->addWidget(new QLabel("q (kN/m)"), 0, 1, Qt::AlignCenter);
-  ug->addWidget(new QLabel("LC"), 0, 2, Qt::AlignCenter);
-  ug->addWidget(new QLabel("Dir"), 0, 3, Qt::AlignCenter);
+  ug->addWidget(new QLabel(LabelText(d, "iq")), 0, 1, Qt::AlignCenter);
+  ug->addWidget(new QLabel(LabelText(d, "iq_gq")), 0, 2, Qt::AlignCenter);
+  ug->addWidget(new QLabel(LabelText(d, "iq_yz")), 0, 3, Qt::AlignCenter);
   for (int i = 1; i <= 4; ++i) {
     QCheckBox* tick = Check(d, Slot("ch_q", i));
     d->bindings()->frame(tick, d->key("frq"));
@@ -361,15 +378,15 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
   tables->addWidget(uniform, 0, 1);
 
   // Trapezoidal loads.
-  auto* trapezoid = Group("Trapezoidal load (kN/m, m)");
+  auto* trapezoid = Group(FrameText(d, "iqt1"));
   auto* tg = Inside<QGridLayout>(trapezoid);
-  tg->addWidget(new QLabel("q1"), 0, 1, Qt::AlignCenter);
-  tg->addWidget(new QLabel("q2"), 0, 2, Qt::AlignCenter);
+  tg->addWidget(new QLabel(LabelText(d, "iqt1")), 0, 1, Qt::AlignCenter);
+  tg->addWidget(new QLabel(LabelText(d, "iqt2")), 0, 2, Qt::AlignCenter);
   auto* qtx = Shown(d, "qtx");
   qtx->setAlignment(Qt::AlignCenter);
   tg->addWidget(qtx, 0, 3, 1, 2);
-  tg->addWidget(new QLabel("LC"), 0, 5, Qt::AlignCenter);
-  tg->addWidget(new QLabel("Dir"), 0, 6, Qt::AlignCenter);
+  tg->addWidget(new QLabel(LabelText(d, "iqt_gq")), 0, 5, Qt::AlignCenter);
+  tg->addWidget(new QLabel(LabelText(d, "iqt_yz")), 0, 6, Qt::AlignCenter);
   for (int i = 1; i <= 3; ++i) {
     QCheckBox* tick = Check(d, Slot("ch_qt", i));
     d->bindings()->frame(tick, d->key("frqt"));
@@ -382,41 +399,41 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
     tg->addWidget(dirButton(Slot("iqt_yz", i)), i, 6);
   }
   auto* tx = new QHBoxLayout;
-  tx->addWidget(Option(d, "qtxrelative", "Relative (x/L)"));
-  tx->addWidget(Option(d, "qtxabsolute", "Absolute (m)"));
+  tx->addWidget(Option(d, "qtxrelative"));
+  tx->addWidget(Option(d, "qtxabsolute"));
   tx->addStretch();
   tg->addLayout(tx, 4, 0, 1, 7);
   tables->addWidget(trapezoid, 1, 0, 1, 2);
 
   // Point forces and moments.
-  auto* point = Group("Point load / Moment (kN, kNm, m)");
+  auto* point = Group(FrameText(d, "ipm"));
   auto* pg = Inside<QGridLayout>(point);
-  pg->addWidget(new QLabel("P / M"), 0, 1, Qt::AlignCenter);
+  pg->addWidget(new QLabel(LabelText(d, "ipm")), 0, 1, Qt::AlignCenter);
   auto* pmx = Shown(d, "pmx");
   pmx->setAlignment(Qt::AlignCenter);
   pg->addWidget(pmx, 0, 2);
-  pg->addWidget(new QLabel("Kind"), 0, 3, Qt::AlignCenter);
-  pg->addWidget(new QLabel("LC"), 0, 4, Qt::AlignCenter);
-  pg->addWidget(new QLabel("Dir"), 0, 5, Qt::AlignCenter);
+  pg->addWidget(new QLabel(LabelText(d, "ipm_pm")), 0, 3, Qt::AlignCenter);
+  pg->addWidget(new QLabel(LabelText(d, "ipm_gq")), 0, 4, Qt::AlignCenter);
+  pg->addWidget(new QLabel(LabelText(d, "ipm_yz")), 0, 5, Qt::AlignCenter);
   for (int i = 1; i <= 8; ++i) {
     QCheckBox* tick = Check(d, Slot("ch_pm", i));
     d->bindings()->frame(tick, d->key("frPM"));
     pg->addWidget(tick, i, 0);
     pg->addWidget(NumberField(d, Slot("ipm", i)), i, 1);
     pg->addWidget(NumberField(d, Slot("ipmx", i)), i, 2);
-    pg->addWidget(Button(d, Slot("ipm_pm", i), "P", 30), i, 3);
+    pg->addWidget(Button(d, Slot("ipm_pm", i), 30), i, 3);
     pg->addWidget(caseButton(Slot("ipm_gq", i)), i, 4);
     pg->addWidget(dirButton(Slot("ipm_yz", i)), i, 5);
   }
   auto* px = new QHBoxLayout;
-  px->addWidget(Option(d, "pmxrelative", "Relative (x/L)"));
-  px->addWidget(Option(d, "pmxabsolute", "Absolute (m)"));
+  px->addWidget(Option(d, "pmxrelative"));
+  px->addWidget(Option(d, "pmxabsolute"));
   px->addStretch();
   pg->addLayout(px, 9, 0, 1, 6);
   tables->addWidget(point, 0, 2, 2, 1);
   main->addLayout(tables);
 
-  auto* remove = Button(d, "CmdRemove", "Remove all checked loads");
+  auto* remove = Button(d, "CmdRemove");
   d->bindings()->frame(remove, d->key("CmdRemove"));
   main->addLayout(Foot({remove}, d->closeButton()));
   return d;
@@ -427,27 +444,27 @@ FormDialog* LoadingDialog(Session* s, QWidget* owner) {
 FormDialog* EndForceDialog(Session* s, QWidget* owner) {
   auto* d = new FormDialog(s, "endforce", "Endforce", owner);
   auto* main = new QVBoxLayout(d);
-  auto* frame = Group("Endforces (kN, kNm)");
+  auto* frame = Group(FrameText(d, "ine"));
   auto* g = Inside<QGridLayout>(frame);
   g->setHorizontalSpacing(6);
-  g->addWidget(Right("N ="), 0, 0);
+  g->addWidget(Right(LabelText(d, "ine")), 0, 0);
   g->addWidget(NumberField(d, "ine", 64), 0, 1);
   g->addWidget(new QLabel(" (+=compression)"), 0, 2, 1, 3);
   // My and Vz in the left pair of columns, Mz and Vy in the right; end 1 above end 2.
-  const char* left[4][2] = {{"My1 =", "imy1"}, {"My2 =", "imy2"}, {"Vz1 =", "ivz1"}, {"Vz2 =", "ivz2"}};
-  const char* right[4][2] = {{"Mz1 =", "imz1"}, {"Mz2 =", "imz2"}, {"Vy1 =", "ivy1"}, {"Vy2 =", "ivy2"}};
+  const char* left[4] = {"imy1", "imy2", "ivz1", "ivz2"};
+  const char* right[4] = {"imz1", "imz2", "ivy1", "ivy2"};
   for (int r = 0; r < 4; ++r) {
     for (int side = 0; side < 2; ++side) {
-      const char* const* f = side == 0 ? left[r] : right[r];
-      QLabel* label = Right(f[0]);
-      QLineEdit* field = NumberField(d, f[1], 64);
+      const char* f = side == 0 ? left[r] : right[r];
+      QLabel* label = Right(LabelText(d, f));
+      QLineEdit* field = NumberField(d, f, 64);
       // A field the family can't carry is hidden with its label.
       auto* holder = new QWidget;
       auto* hl = new QHBoxLayout(holder);
       hl->setContentsMargins(0, 0, 0, 0);
       hl->addWidget(label);
       hl->addWidget(field);
-      d->bindings()->frame(holder, d->key(f[1]));
+      d->bindings()->frame(holder, d->key(f));
       g->addWidget(holder, r + 1, side == 0 ? 0 : 3, 1, 2, Qt::AlignRight);
     }
   }
@@ -485,18 +502,15 @@ FormDialog* BucklingDialog(Session* s, QWidget* owner, bool yAxis) {
       s, form, yAxis ? "Buckling length factors - Y-axis" : "Buckling length factors - Z-axis", owner);
   auto* main = new QVBoxLayout(d);
   auto* row = new QHBoxLayout;
-  const char* factors[5] = {"2.0", "1.0", "0.7", "0.5", "0.001"};
-  const char* tips[5] = {"Cantilever", "Pinned - pinned", "Pinned - fixed", "Fixed - fixed",
-                         "Held over the length: no buckling"};
   for (int c = 1; c <= 5; ++c) {
     auto* b = new QToolButton;
     b->setIcon(BucklingCaseIcon(c));
     b->setIconSize(QSize(30, 60));
-    b->setText(factors[c - 1]);
-    b->setToolTip(tips[c - 1]);
+    const std::string control = form + std::to_string(c);
+    b->setText(CaptionText(d, control));
+    b->setToolTip(TipText(d, control));
     b->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     b->setMinimumWidth(52);
-    const std::string control = form + std::to_string(c);
     d->bindings()->option(b, d->key(control), d->key(control), 1);
     row->addWidget(b);
   }
@@ -511,26 +525,26 @@ FormDialog* BucklingDialog(Session* s, QWidget* owner, bool yAxis) {
 FormDialog* CheckPointDialog(Session* s, QWidget* owner) {
   auto* d = new FormDialog(s, "chpoints", "Section Control - calculation points", owner);
   auto* main = new QVBoxLayout(d);
-  main->addWidget(Option(d, "cp_0", "11 even distributed points && Max/Min My/Mz "));
-  main->addWidget(Option(d, "cp_1", "Characteristic points"));
-  auto* frame = Group("Characteristic points (CP)", "chpoints.fr_cp");
+  main->addWidget(Option(d, "cp_0"));
+  main->addWidget(Option(d, "cp_1"));
+  auto* frame = Group(FrameText(d, "cprelative"), "chpoints.fr_cp");
   d->bindings()->frame(frame, d->key("fr_cp"));
   auto* g = Inside<QGridLayout>(frame);
   auto* count = new QHBoxLayout;
-  count->addWidget(new QLabel("Number of Points:"));
-  for (int n = 1; n <= 3; ++n) count->addWidget(Option(d, "no_cp" + std::to_string(n), QString::number(n)));
+  count->addWidget(new QLabel(RowText(d, "no_cp1")));
+  for (int n = 1; n <= 3; ++n) count->addWidget(Option(d, "no_cp" + std::to_string(n)));
   count->addStretch();
   g->addLayout(count, 0, 0, 1, 3);
   auto* kind = new QHBoxLayout;
-  kind->addWidget(Option(d, "cprelative", "Relative (x/L)"));
-  kind->addWidget(Option(d, "cpabsolute", "Absolute (m)"));
+  kind->addWidget(Option(d, "cprelative"));
+  kind->addWidget(Option(d, "cpabsolute"));
   kind->addStretch();
   g->addLayout(kind, 1, 0, 1, 3);
   auto* cpx = Shown(d, "cpx");
   cpx->setAlignment(Qt::AlignCenter);
   g->addWidget(cpx, 2, 1);
   for (int n = 1; n <= 3; ++n) {
-    auto* label = new QLabel(QString("CP%1").arg(n));
+    auto* label = new QLabel(RowText(d, "icp") + QString::number(n));
     g->addWidget(label, 2 + n, 0);
     QLineEdit* field = NumberField(d, Slot("icp", n), 64);
     g->addWidget(field, 2 + n, 1);
@@ -702,25 +716,25 @@ FormDialog* ProgramInfoDialog(Session* s, QWidget* owner) {
 FormDialog* EndStiffenerDialog(Session* s, QWidget* owner) {
   auto* d = new FormDialog(s, "endstiff", "End Supports/Web stiffener", owner);
   auto* main = new QVBoxLayout(d);
-  auto* web = Group("Vertical web stiffener ", "endstiff.frwebstiff");
+  auto* web = Group(FrameText(d, "iweba"), "endstiff.frwebstiff");
   d->bindings()->frame(web, d->key("frwebstiff"));
   auto* wl = Inside<QGridLayout>(web);
-  wl->addWidget(Option(d, "cwebstiff0", "No intermediate stiffeners"), 0, 0, 1, 4);
-  wl->addWidget(Option(d, "cwebstiff1", "Stiffeners"), 1, 0);
+  wl->addWidget(Option(d, "cwebstiff0"), 0, 0, 1, 4);
+  wl->addWidget(Option(d, "cwebstiff1"), 1, 0);
   auto* spacing = new QWidget;
   auto* sl = new QHBoxLayout(spacing);
   sl->setContentsMargins(0, 0, 0, 0);
-  sl->addWidget(new QLabel("c/c="));
+  sl->addWidget(new QLabel(LabelText(d, "iweba")));
   sl->addWidget(NumberField(d, "iweba", 56));
   sl->addWidget(new QLabel("mm"));
   d->bindings()->frame(spacing, d->key("iweba"));
   wl->addWidget(spacing, 1, 1, 1, 3, Qt::AlignLeft);
   main->addWidget(web);
-  auto* end = Group("End Support (EN 1993-1-5, ch 5.3)", "endstiff.frendsupport");
+  auto* end = Group(FrameText(d, "oendstiff0"), "endstiff.frendsupport");
   d->bindings()->frame(end, d->key("frendsupport"));
   auto* el = Inside<QVBoxLayout>(end);
-  auto* nonRigid = Option(d, "oendstiff0", "Non-rigid end post");
-  auto* rigid = Option(d, "oendstiff1", "Rigid end post");
+  auto* nonRigid = Option(d, "oendstiff0");
+  auto* rigid = Option(d, "oendstiff1");
   el->addWidget(nonRigid);
   el->addWidget(rigid);
   QLabel* note = Note("Minimum two webstiffeners at the support");
@@ -753,63 +767,61 @@ FormDialog* LtbDialog(Session* s, QWidget* owner) {
   main->setHorizontalSpacing(10);
   main->setVerticalSpacing(8);
 
-  auto* curves = Group("Lateral torsional buckling curves (ref ch 6.3.2.2/6.3.2.3)");
+  auto* curves = Group(FrameText(d, "Curve2"));
   auto* cv = Inside<QVBoxLayout>(curves);
-  cv->addWidget(Option(d, "Curve2", "General Case (conservative, ch 6.3.2.2)"));
-  cv->addWidget(Option(d, "Curve3", "Rolled or welded I-sections (ch 6.3.2.3)"));
+  cv->addWidget(Option(d, "Curve2"));
+  cv->addWidget(Option(d, "Curve3"));
   cv->addWidget(Note(" Valid for Double Symmetric Profiles "));
   cv->addWidget(Note(" Deeper slender beams "));
   main->addWidget(curves, 0, 0);
 
-  auto* level = Group("Loadlevel");
+  auto* level = Group(FrameText(d, "iza"));
   auto* ll = Inside<QHBoxLayout>(level);
-  const char* tips[4] = {"Top flange", "Shear centre", "Bottom flange", "Za = distance from CoG"};
   for (int i = 1; i <= 4; ++i) {
     auto* b = new QToolButton;
     b->setIcon(LoadLevelIcon(i));
     b->setIconSize(QSize(28, 28));
-    b->setToolTip(tips[i - 1]);
     const std::string control = "loadl" + std::to_string(i);
+    b->setToolTip(TipText(d, control));
     d->bindings()->option(b, d->key(control), d->key(control), 1);
     ll->addWidget(b);
   }
   ll->addSpacing(6);
-  ll->addWidget(new QLabel("Za ="));
+  ll->addWidget(new QLabel(LabelText(d, "iza")));
   ll->addWidget(NumberField(d, "iza", 48));
   ll->addWidget(new QLabel("mm"));
   ll->addStretch();
   main->addWidget(level, 1, 0);
 
-  auto* restraints = Group("Lateral restraint points along compression flange");
+  auto* restraints = Group(FrameText(d, "cbo"));
   auto* rl = Inside<QHBoxLayout>(restraints);
   rl->addWidget(List(d, "cbo", 3));
   rl->addStretch();
   main->addWidget(restraints, 2, 0);
 
-  auto* length = Group("Lateral torsional buckling length");
+  auto* length = Group(FrameText(d, "latbuckl1"));
   auto* ln = Inside<QVBoxLayout>(length);
   auto* ks = new QHBoxLayout;
-  const char* factors[4] = {"k = 2.0", "k = 1.0", "k = 0.7", "k = 0.5"};
-  for (int i = 1; i <= 4; ++i) ks->addWidget(Option(d, "latbuckl" + std::to_string(i), factors[i - 1]));
+  for (int i = 1; i <= 4; ++i) ks->addWidget(Option(d, "latbuckl" + std::to_string(i)));
   ks->addStretch();
   ln->addLayout(ks);
   ln->addWidget(Note("k-factor is related to member length or the  length between restraint points "));
   main->addWidget(length, 3, 0);
 
-  auto* capacity = Group("Lateral torsional bending/buckling capacity ");
+  auto* capacity = Group(FrameText(d, "ic1"));
   auto* cg = Inside<QGridLayout>(capacity);
-  cg->addWidget(Check(d, "Cfactor", "Manual input of C-factors"), 0, 0, 1, 3);
-  const char* fields[3][2] = {{"C1i =", "ic1"}, {"C2i =", "ic2"}, {"C3i =", "ic3"}};
+  cg->addWidget(Check(d, "Cfactor"), 0, 0, 1, 3);
+  const char* fields[3] = {"ic1", "ic2", "ic3"};
   // Each factor the program works out stands on the row of the factor typed in its place.
   const char* results[3] = {"C1", "C2", "C3"};
   for (int r = 0; r < 3; ++r) {
-    cg->addWidget(Right(fields[r][0]), r + 1, 0);
-    cg->addWidget(NumberField(d, fields[r][1], 56), r + 1, 1);
+    cg->addWidget(Right(LabelText(d, fields[r])), r + 1, 0);
+    cg->addWidget(NumberField(d, fields[r], 56), r + 1, 1);
     cg->addWidget(Shown(d, results[r]), r + 1, 2);
   }
   cg->addWidget(Shown(d, "Mcr"), 4, 1, 1, 2);
   cg->addWidget(Shown(d, "MdRb"), 5, 1, 1, 2);
-  cg->addWidget(Check(d, "C1factor", "Alternative calculation of C1"), 6, 0, 1, 3);
+  cg->addWidget(Check(d, "C1factor"), 6, 0, 1, 3);
   auto* part = new QHBoxLayout;
   part->addWidget(new QLabel("Beampart:"));
   part->addWidget(Shown(d, "Beampart"));
@@ -882,7 +894,7 @@ FormDialog* DetailDialog(Session* s, QWidget* owner) {
     }
   };
   d->setExtraRefresh(fill);
-  auto* exportButton = new QPushButton("Export to spreadsheet...");
+  auto* exportButton = new QPushButton(CaptionText(d, "cmdDetailedResult"));
   exportButton->setObjectName("cmdDetailedResult");
   exportButton->setAutoDefault(false);
   QObject::connect(exportButton, &QPushButton::clicked, d, [d] {

@@ -28,6 +28,7 @@
 #include <functional>
 #include <tuple>
 
+#include "core/captions.h"
 #include "core/recalculate.h"
 #include "forms/bindings.h"
 #include "forms/form_dialog.h"
@@ -162,12 +163,13 @@ QString SummaryHtml(const View& v) {
   return html + QStringLiteral("</table>");
 }
 
-const char* const kSupportTips[6] = {"Simply supported",
-                                     "Pinned at x=0, fixed at x=L",
-                                     "Fixed at both ends",
-                                     "Spring restraint at both ends",
-                                     "Cantilever: fixed at x=0, free at x=L",
-                                     "Pinned at x=0, spring restraint at x=L"};
+// The main form's texts from the core's table of captions.
+QString MainCaption(const std::string& name) { return QString::fromStdString(CaptionOf("", name).caption); }
+QString MainLabel(const std::string& name) {
+  return QString::fromStdString(ShownText(CaptionOf("", name).caption));
+}
+QString MainFrame(const std::string& name) { return QString::fromStdString(CaptionOf("", name).frame); }
+QString MainTip(const std::string& name) { return QString::fromStdString(CaptionOf("", name).tip); }
 
 // Menu entries the form handles itself, whether or not the core has a control for them.
 bool FormHandles(const std::string& control) {
@@ -248,18 +250,18 @@ QAction* MainForm::menuAction(const std::string& control) const {
 void MainForm::buildMenus() {
   QMenuBar* bar = menuBar();
 
-  QMenu* file = bar->addMenu("&File");
+  QMenu* file = bar->addMenu(MainCaption("mnufile"));
   file->setObjectName("mnufile");
-  addEntry(file, "mnunew", "&New");
-  addEntry(file, "mnuopen", "&Open");
-  addEntry(file, "mnusave", "&Save");
-  addEntry(file, "mnusaveas", "Save &As");
+  addEntry(file, "mnunew", MainCaption("mnunew"));
+  addEntry(file, "mnuopen", MainCaption("mnuopen"));
+  addEntry(file, "mnusave", MainCaption("mnusave"));
+  addEntry(file, "mnusaveas", MainCaption("mnusaveas"));
   file->addSeparator()->setObjectName("mnuspc");
-  addEntry(file, "mnuprint00", "Print - Section &Property and Capacity");
-  addEntry(file, "mnuprint11", "Print  - Section and Stability Control");
+  addEntry(file, "mnuprint00", MainCaption("mnuprint00"));
+  addEntry(file, "mnuprint11", MainCaption("mnuprint11"));
   // The reports as PDF files, written without the print dialog.
-  addEntry(file, "mnupdf0", "Export PDF - Section Property and Capacity...");
-  addEntry(file, "mnupdf1", "Export PDF - Section and Stability Control...");
+  addEntry(file, "mnupdf0", MainCaption("mnupdf0"));
+  addEntry(file, "mnupdf1", MainCaption("mnupdf1"));
   QAction* recentLine = file->addSeparator();
   recentLine->setObjectName("mnurecentfile(0)");
   actions_["mnurecentfile(0)"] = recentLine;
@@ -269,7 +271,7 @@ void MainForm::buildMenus() {
     a->setVisible(false);
   }
   file->addSeparator()->setObjectName("mnuspace");
-  addEntry(file, "mnuexit", "&Exit");
+  addEntry(file, "mnuexit", MainCaption("mnuexit"));
 
   // Entries of the menu bar that act at once.
   auto top = [this, bar](const std::string& control, const QString& caption) {
@@ -278,40 +280,40 @@ void MainForm::buildMenus() {
     actions_[control] = a;
     connect(a, &QAction::triggered, this, [this, control] { onMenu(control); });
   };
-  top("mnusetup", "&Setup");
+  top("mnusetup", MainCaption("mnusetup"));
 
-  profilesMenu_ = bar->addMenu("&Profiles");
+  profilesMenu_ = bar->addMenu(MainCaption("mnustiff"));
   profilesMenu_->setObjectName("mnustiff");
   for (const ProfileEntry& e : kProfiles) {
     if (e.separatorBefore) profilesMenu_->addSeparator();
     if (std::string(e.menu) == "mnuu") {
-      QAction* label = profilesMenu_->addAction(kBritishLabel);
+      QAction* label = profilesMenu_->addAction(MainCaption(kBritishLabelControl));
       label->setObjectName(kBritishLabelControl);
       label->setEnabled(false);
     }
-    addEntry(profilesMenu_, e.menu, e.caption);
+    addEntry(profilesMenu_, e.menu, MainCaption(e.menu));
   }
   // The lightest section of the catalogue families that carries the member as it stands.
   profilesMenu_->addSeparator();
-  addEntry(profilesMenu_, "mnulightest", "Lightest Section that Passes...");
+  addEntry(profilesMenu_, "mnulightest", MainCaption("mnulightest"));
 
-  top("mnuload1", "&Loading");
-  top("mnuendforces", "&Endforces");
+  top("mnuload1", MainCaption("mnuload1"));
+  top("mnuendforces", MainCaption("mnuendforces"));
 
-  QMenu* print = bar->addMenu("P&rint");
+  QMenu* print = bar->addMenu(MainCaption("mnuprint"));
   print->setObjectName("mnuprint");
-  addEntry(print, "mnuprint0", "Section &Property and Capacity");
-  addEntry(print, "mnuprint1", "&Section and Stability Control");
+  addEntry(print, "mnuprint0", MainCaption("mnuprint0"));
+  addEntry(print, "mnuprint1", MainCaption("mnuprint1"));
 
-  top("mnuProfDB", "Profile Database");
+  top("mnuProfDB", MainCaption("mnuProfDB"));
 
-  QMenu* help = bar->addMenu("&Help");
+  QMenu* help = bar->addMenu(MainCaption("mnuhelp"));
   help->setObjectName("mnuhelp");
-  addEntry(help, "mnuhelpcont", "&Contents");
-  addEntry(help, "mnuhelpsearch", "&Search for Help On . . . ");
-  addEntry(help, "mnuTheory", "Theory Manual");
+  addEntry(help, "mnuhelpcont", MainCaption("mnuhelpcont"));
+  addEntry(help, "mnuhelpsearch", MainCaption("mnuhelpsearch"));
+  addEntry(help, "mnuTheory", MainCaption("mnuTheory"));
   help->addSeparator()->setObjectName("line");
-  addEntry(help, "mnuabout", "&About Varnelt - EC3");
+  addEntry(help, "mnuabout", MainCaption("mnuabout"));
 }
 
 // The row of section buttons under the menu: one small picture of each family, in the order and
@@ -346,7 +348,7 @@ void MainForm::buildSectionButtons() {
       }
     });
     const std::string control = ButtonOf(e);
-    QAction* a = row->addAction(icon, QString(e.caption).remove('&').trimmed());
+    QAction* a = row->addAction(icon, MainLabel(e.menu).trimmed());
     a->setObjectName(QString::fromStdString(control));
     connect(a, &QAction::triggered, this, [this, control] { session_->fireAndTell(this, control); });
   }
@@ -355,8 +357,8 @@ void MainForm::buildSectionButtons() {
   row->addWidget(spacer);
   auto* picture = new QToolButton;
   picture->setObjectName("Picture");
-  picture->setText("Varnelt EC3");
-  picture->setToolTip("About the program and its data files");
+  picture->setText(MainCaption("Picture"));
+  picture->setToolTip(MainTip("Picture"));
   QFont f = picture->font();
   f.setBold(true);
   f.setItalic(true);
@@ -388,28 +390,28 @@ void MainForm::buildForm() {
   auto* iident = new QLineEdit;
   b.textField(iproj, "iproj");
   b.textField(iident, "iident");
-  names->addRow("Project", iproj);
-  names->addRow("Ident", iident);
+  names->addRow(MainLabel("iproj"), iproj);
+  names->addRow(MainLabel("iident"), iident);
   input->addLayout(names);
 
-  auto* fr11 = Frame("Member data (m)", "fr11");
+  auto* fr11 = Frame(MainFrame("il"), "fr11");
   auto* member = Inside<QHBoxLayout>(fr11);
   auto* il = Field(70);
   b.field(il, "il");
-  member->addWidget(new QLabel("L ="));
+  member->addWidget(new QLabel(MainLabel("il")));
   member->addWidget(il);
   member->addStretch();
   input->addWidget(fr11);
 
-  auto* column = Frame("Column data", "columnframe");
+  auto* column = Frame(MainFrame("ibly"), "columnframe");
   b.frame(column, "columnframe");
   auto* cgrid = Inside<QGridLayout>(column);
   cgrid->setHorizontalSpacing(4);
   cgrid->setVerticalSpacing(3);
   cgrid->addWidget(new QLabel("Y-axis"), 0, 1, 1, 2, Qt::AlignCenter);
   cgrid->addWidget(new QLabel("Z-axis"), 0, 3, 1, 2, Qt::AlignCenter);
-  cgrid->addWidget(new QLabel("Length factor"), 1, 0);
-  cgrid->addWidget(new QLabel("Buckling curve"), 2, 0);
+  cgrid->addWidget(new QLabel(MainLabel("ibly")), 1, 0);
+  cgrid->addWidget(new QLabel(MainLabel("cbobcy")), 2, 0);
   const char* axes[2][5] = {{"ibly", "cbuttbucklingy", "cbobcy", "obcy", "Y"},
                             {"iblz", "cbuttbucklingz", "cbobcz", "obcz", "Z"}};
   for (int k = 0; k < 2; ++k) {
@@ -418,7 +420,7 @@ void MainForm::buildForm() {
     b.field(factor, axes[k][0]);
     auto* cases = new QToolButton;
     cases->setIconSize(QSize(14, 28));
-    cases->setToolTip(QString("Buckling length, %1-axis").arg(axes[k][4]));
+    cases->setToolTip(MainTip(axes[k][1]));
     b.button(cases, axes[k][1]);
     auto* curve = new QComboBox;
     curve->setFixedWidth(58);
@@ -433,7 +435,7 @@ void MainForm::buildForm() {
   cgrid->setColumnStretch(0, 1);
   input->addWidget(column);
 
-  auto* material = Frame("Material", "Frame4");
+  auto* material = Frame(MainFrame("ifyk"), "Frame4");
   auto* mat = Inside<QHBoxLayout>(material);
   auto* cbofyk = new QComboBox;
   cbofyk->setMinimumContentsLength(8);
@@ -441,18 +443,18 @@ void MainForm::buildForm() {
   auto* ifyk = Field(48);
   b.field(ifyk, "ifyk");
   mat->addWidget(cbofyk, 1);
-  mat->addWidget(new QLabel("fyk ="));
+  mat->addWidget(new QLabel(MainLabel("ifyk")));
   mat->addWidget(ifyk);
   mat->addWidget(new QLabel("MPa"));
   input->addWidget(material);
 
-  auto* ltb = Frame("Lateral Torsional Buckling", "Frame1");
+  auto* ltb = Frame(MainFrame("ch_vipp"), "Frame1");
   auto* lt = Inside<QHBoxLayout>(ltb);
-  auto* vipp = new QCheckBox("Lat tors buckl");
+  auto* vipp = new QCheckBox(MainCaption("ch_vipp"));
   b.check(vipp, "ch_vipp");
   auto* ltbButton = new QToolButton;
-  ltbButton->setText("...");
-  ltbButton->setToolTip("Lateral torsional buckling parameters");
+  ltbButton->setText(MainCaption("cbuttlateral"));
+  ltbButton->setToolTip(MainTip("cbuttlateral"));
   b.button(ltbButton, "cbuttlateral");
   auto* zaa = new QLabel;
   b.label(zaa, "zaa");
@@ -476,7 +478,7 @@ void MainForm::buildForm() {
   lt->addWidget(picLevel);
   input->addWidget(ltb);
 
-  auto* supports = Frame("End supports", "Frame2");
+  auto* supports = Frame(MainFrame("cbutt0"), "Frame2");
   auto* sup = Inside<QGridLayout>(supports);
   sup->setSpacing(3);
   const QSize iconSize(54, 27);
@@ -484,14 +486,14 @@ void MainForm::buildForm() {
     auto* option = new QToolButton;
     option->setIcon(SupportIcon(type, iconSize));
     option->setIconSize(iconSize);
-    option->setToolTip(kSupportTips[type]);
+    option->setToolTip(MainTip("cbutt" + std::to_string(type)));
     option->setAutoRaise(false);
     b.option(option, "cbutt" + std::to_string(type), "cbutt", type);
     sup->addWidget(option, type / 3, type % 3);
   }
   input->addWidget(supports);
 
-  auto* support = Frame("Support", "fr14");
+  auto* support = Frame(MainFrame("ispring"), "fr14");
   auto* sp = Inside<QGridLayout>(support);
   sp->setSpacing(4);
   auto* springBox = new QWidget;
@@ -500,11 +502,11 @@ void MainForm::buildForm() {
   auto* ispring = Field(40);
   b.frame(springBox, "ispring");
   b.field(ispring, "ispring");
-  spring->addWidget(new QLabel("Spring ="));
+  spring->addWidget(new QLabel(MainLabel("ispring")));
   spring->addWidget(ispring);
   spring->addWidget(new QLabel("%"));
   spring->addStretch();
-  auto* stiffeners = new QPushButton("Web stiffeners...");
+  auto* stiffeners = new QPushButton(MainCaption("cbuttsupport"));
   b.button(stiffeners, "cbuttsupport");
   auto* pic11 = new PictureBox(session_, "pic11");
   pic11->setMinimumHeight(46);
@@ -544,32 +546,32 @@ void MainForm::buildForm() {
   auto* calc = Frame("Calculation data", "Frame3");
   auto* cl = Inside<QVBoxLayout>(calc);
   cl->setSpacing(4);
-  auto* modalFrame = Frame("Modal Analysis", "Frame5");
+  auto* modalFrame = Frame(MainFrame("ch_modal"), "Frame5");
   auto* modal = Inside<QHBoxLayout>(modalFrame);
-  auto* chModal = new QCheckBox("Modal analysis");
+  auto* chModal = new QCheckBox(MainCaption("ch_modal"));
   b.check(chModal, "ch_modal");
-  auto* modalResults = new QPushButton("Results");
+  auto* modalResults = new QPushButton(MainCaption("cmd_modresult"));
   b.button(modalResults, "cmd_modresult");
   modal->addWidget(chModal);
   modal->addStretch();
   modal->addWidget(modalResults);
   cl->addWidget(modalFrame);
 
-  auto* pointsFrame = Frame("Calculation points", "cpframe");
+  auto* pointsFrame = Frame(MainFrame("cp"), "cpframe");
   auto* points = Inside<QHBoxLayout>(pointsFrame);
-  auto* cp = new QPushButton("Calculation points...");
+  auto* cp = new QPushButton(MainCaption("cp"));
   b.button(cp, "cp");
   points->addWidget(cp);
   points->addStretch();
   cl->addWidget(pointsFrame);
 
-  auto* lc = Frame("Load Combinations (LC)", "frLc");
+  auto* lc = Frame(MainFrame("CboLoadComb"), "frLc");
   b.frame(lc, "frLc");
   auto* lcl = Inside<QGridLayout>(lc);
   lcl->setSpacing(4);
   auto* combos = new QComboBox;
   b.list(combos, "CboLoadComb");
-  auto* sls = new QCheckBox("Incl Deflection control L/");
+  auto* sls = new QCheckBox(MainCaption("CheckSLS"));
   b.check(sls, "CheckSLS");
   auto* limit = Field(48);
   b.field(limit, "idef_limit");
@@ -605,11 +607,11 @@ void MainForm::buildForm() {
     l->addWidget(none, 1);
     return f;
   };
-  auto* fr2 = chartFrame("Loading/Moment/Shear/Deflection - Z-axis  ", "fr2", "PicLoadZ", "PicMy");
-  auto* fr3 = chartFrame("Loading/Moment/Shear/Deflection - Y-axis  ", "fr3", "PicLoadY", "PicMz");
+  auto* fr2 = chartFrame(MainFrame("PicLoadZ"), "fr2", "PicLoadZ", "PicMy");
+  auto* fr3 = chartFrame(MainFrame("PicLoadY"), "fr3", "PicLoadY", "PicMz");
 
   // ---- Results ----
-  auto* fr4 = Frame("Results ", "fr4");
+  auto* fr4 = Frame(MainFrame("CmdResult"), "fr4");
   auto* rl = Inside<QGridLayout>(fr4);
   rl->setSpacing(4);
   auto* picture4 = new PictureBox(session_, "Picture4");
@@ -646,7 +648,7 @@ void MainForm::buildForm() {
   brown.setColor(QPalette::WindowText, QColor(0x8a, 0x4b, 0x00));
   note_->setPalette(brown);
   note_->hide();
-  auto* more = new QPushButton("More Results");
+  auto* more = new QPushButton(MainCaption("CmdResult"));
   b.button(more, "CmdResult");
   // The verdict of the run in one line above the three blocks.
   verdict_ = new QLabel;

@@ -11,6 +11,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/captions.h"
+#include "core/events.h"
+#include "core/state.h"
 #include "forms/bindings.h"
 #include "forms/look.h"
 #include "forms/picture_box.h"
@@ -68,66 +71,52 @@ QString ValueBlock::valueOf(const QString& label) const {
 
 namespace {
 
-// The caption of a typed dimension, from its field's name: "isttf1" is "tf1 =".
-QString FieldCaption(const std::string& field) {
-  static const std::pair<const char*, const char*> named[] = {{"iload", "Max loading on one flange (%):"},
-                                                              {"istax", "A ="},
-                                                              {"istay", "Ay ="},
-                                                              {"istaz", "Az ="},
-                                                              {"istix", "Ix ="},
-                                                              {"istiy", "Iy ="},
-                                                              {"istiz", "Iz ="},
-                                                              {"istiw", "Iw ="},
-                                                              {"istwely", "Wel,y ="},
-                                                              {"istwelz", "Wel,z ="},
-                                                              {"istwply", "Wpl,y ="},
-                                                              {"istwplz", "Wpl,z ="}};
-  for (const auto& [name, caption] : named)
-    if (field == name) return caption;
-  const std::string bare = field.rfind("ist", 0) == 0 ? field.substr(3) : field;
-  return QString::fromStdString(bare) + " =";
+// A control's texts from the core's table of captions.
+struct Captions {
+  QString caption, frame, tip;
+};
+Captions CaptionIn(const std::string& form, const std::string& name) {
+  const ControlCaption c = CaptionOf(form, name);
+  return {QString::fromStdString(c.caption), QString::fromStdString(c.frame), QString::fromStdString(c.tip)};
 }
 
-QString FieldUnit(const std::string& field) {
-  if (field == "iload") return {};
-  if (field == "istax" || field == "istay" || field == "istaz") return "mm2";
-  if (field == "istix" || field == "istiy" || field == "istiz") return "mm4";
-  if (field == "istiw") return "mm6";
-  if (field.rfind("istw", 0) == 0 && field.size() > 5) return "mm3";
-  return "mm";
+// The unit of a typed dimension as the core gives it ("mm", "mm4"); none for a percentage.
+QString UnitIn(const State& s, const std::string& form, const std::string& name) {
+  int index = -1;
+  const ControlEntry* e = Controls().Find(form + "." + name, &index);
+  return e ? QString::fromStdString(UnitOfField(s, *e, index)) : QString();
 }
 
-// The options of the dialogs: control, caption, the group whose value sets it, its own value.
+// The options of the dialogs: control, the group whose value sets it, its own value; their captions
+// and frames are in the core's table of captions.
 struct DialogOption {
   const char* form;
   const char* control;
-  const char* caption;
   const char* group;
   int value;
-  const char* frame;  // the frame that holds the group
 };
 
 constexpr DialogOption kOptions[] = {
-    {"p07", "optturn1", "As catalogued (h vertical)", "turned", 1, "Position"},
-    {"p07", "optturn0", "Turned 90 degrees", "turned", 0, "Position"},
-    {"p09", "optturn1", "As catalogued (h vertical)", "turned", 1, "Position"},
-    {"p09", "optturn0", "Turned 90 degrees", "turned", 0, "Position"},
-    {"p10", "opt_l10_1", " One bolt", "angle", 1, "Force transfer:"},
-    {"p10", "opt_l10_2", " Two bolts (Ref EC3, BB.1.2)", "angle", 2, "Force transfer:"},
-    {"p11", "opt_l10_1", " One bolt", "angle", 1, "Force transfer:"},
-    {"p11", "opt_l10_2", " Two bolts (Ref EC3, BB.1.2)", "angle", 2, "Force transfer:"},
-    {"p23", "oweld0", "Thick welds: a > 0.5 tf", "oweld", 0, "Welds"},
-    {"p23", "oweld1", "Other welds", "oweld", 1, "Welds"},
-    {"p24", "opthsq0", "Consider flange loading (valid for q-load)", "opthsq", 0, "Flange loading"},
-    {"p24", "opthsq1", "No flange loading", "opthsq", 1, "Flange loading"},
-    {"p25", "opthsq0", "Consider flange loading (valid for q-load)", "opthsq", 0, "Flange loading"},
-    {"p25", "opthsq1", "No flange loading", "opthsq", 1, "Flange loading"},
-    {"p24", "OptClass23Y", "Yes", "OptClass23", 0, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
-    {"p24", "OptClass23N", "No", "OptClass23", 1, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
-    {"p25", "OptClass23Y", "Yes", "OptClass23", 0, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
-    {"p25", "OptClass23N", "No", "OptClass23", 1, "Upgrade section class if Class 3 web (Ch 6.2.2.24)"},
-    {"p31", "opthot", "Hot finished", "tube", 1, "Manufacture"},
-    {"p31", "optcold", "Cold formed", "tube", 0, "Manufacture"},
+    {"p07", "optturn1", "turned", 1},
+    {"p07", "optturn0", "turned", 0},
+    {"p09", "optturn1", "turned", 1},
+    {"p09", "optturn0", "turned", 0},
+    {"p10", "opt_l10_1", "angle", 1},
+    {"p10", "opt_l10_2", "angle", 2},
+    {"p11", "opt_l10_1", "angle", 1},
+    {"p11", "opt_l10_2", "angle", 2},
+    {"p23", "oweld0", "oweld", 0},
+    {"p23", "oweld1", "oweld", 1},
+    {"p24", "opthsq0", "opthsq", 0},
+    {"p24", "opthsq1", "opthsq", 1},
+    {"p25", "opthsq0", "opthsq", 0},
+    {"p25", "opthsq1", "opthsq", 1},
+    {"p24", "OptClass23Y", "OptClass23", 0},
+    {"p24", "OptClass23N", "OptClass23", 1},
+    {"p25", "OptClass23Y", "OptClass23", 0},
+    {"p25", "OptClass23N", "OptClass23", 1},
+    {"p31", "opthot", "tube", 1},
+    {"p31", "optcold", "tube", 0},
 };
 
 }  // namespace
@@ -143,8 +132,11 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   setObjectName(QString::fromStdString(form_));
   setAttribute(Qt::WA_DeleteOnClose);
   setModal(false);
-  QString title = QString(family.caption).remove('&').trimmed();
+  QString title = ProfileTitle(family);
   setWindowTitle(title);
+
+  auto Caption = [this](const std::string& name) { return CaptionIn(form_, name); };
+  auto Unit = [this](const std::string& name) { return UnitIn(session_->state(), form_, name); };
 
   auto* grid = new QGridLayout(this);
   grid->setHorizontalSpacing(8);
@@ -168,16 +160,16 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   QGroupBox* props = frame("Section property", properties_, 190);
   QGroupBox* caps = frame("Capacity", capacity_, 210);
 
-  figureFrame_ = new QGroupBox("Figure not to scale");
+  figureFrame_ = new QGroupBox(Caption("pic1").frame);
   auto* fl = new QVBoxLayout(figureFrame_);
   figure_ = new PictureBox(session_, key("pic1"));
   figure_->setMinimumSize(170, 170);
-  figure_->setToolTip("Click: figure to scale or not");
+  figure_->setToolTip(Caption("pic1").tip);
   figure_->setSquare(true);
   bindings_->picture(figure_);
   fl->addWidget(figure_);
 
-  auto* close = new QPushButton("Close");
+  auto* close = new QPushButton(Caption("Command1").caption);
   close->setObjectName("Command1");
   connect(close, &QPushButton::clicked, this, [this] { this->close(); });
 
@@ -190,14 +182,14 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
 
   auto* left = new QVBoxLayout;
   // The families with several tables choose the table first.
-  std::vector<const char*> tables;
-  if (family.type == 101) tables = {"UB", "UC", "UBP"};
-  if (family.type == 103) tables = {"PFC", "CH"};
-  if (!tables.empty()) {
+  size_t tables = 0;
+  while (tables < 3 && !Caption("prof" + std::to_string(tables + 1)).caption.isEmpty()) ++tables;
+  if (tables > 0) {
     auto* row = new QHBoxLayout;
-    for (size_t k = 0; k < tables.size(); ++k) {
-      auto* option = new QRadioButton(tables[k]);
-      const std::string control = key(("prof" + std::to_string(k + 1)).c_str());
+    for (size_t k = 0; k < tables; ++k) {
+      const std::string name = "prof" + std::to_string(k + 1);
+      auto* option = new QRadioButton(Caption(name).caption);
+      const std::string control = key(name.c_str());
       bindings_->option(option, control, control, 1);
       row->addWidget(option);
     }
@@ -210,7 +202,8 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   if (fields.empty()) left->addWidget(list_);
   // Typed dimensions: a plate with a stiffener has its plate (b1, t1 or tf1) and its stiffener
   // apart; the other families one frame.
-  auto fieldFrame = [this](const QString& caption, const std::vector<std::string>& names, QComboBox* list) {
+  auto fieldFrame = [this, Caption, Unit](const QString& caption, const std::vector<std::string>& names,
+                                          QComboBox* list) {
     auto* g = new QGroupBox(caption);
     auto* l = new QGridLayout(g);
     int row = 0;
@@ -222,9 +215,9 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
       edit->setFixedWidth(fontMetrics().horizontalAdvance(form_ == "p41" ? "00000000000000" : "0000000.0") +
                           12);
       bindings_->field(edit, key(f.c_str()));
-      l->addWidget(new QLabel(FieldCaption(f)), row, 0, Qt::AlignRight);
+      l->addWidget(new QLabel(Caption(f).caption), row, 0, Qt::AlignRight);
       l->addWidget(edit, row, 1);
-      l->addWidget(new QLabel(FieldUnit(f)), row, 2);
+      l->addWidget(new QLabel(Unit(f)), row, 2);
       ++row;
     }
     l->setColumnStretch(2, 1);
@@ -234,24 +227,24 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   if (!fields.empty() && plate) {
     std::vector<std::string> sheet, stiffener;
     for (const std::string& f : fields) (f.back() == '1' ? sheet : stiffener).push_back(f);
-    left->addWidget(fieldFrame("Plate:", sheet, nullptr));
-    left->addWidget(fieldFrame("Stiffener:", stiffener, listed ? list_ : nullptr));
+    left->addWidget(fieldFrame(Caption(sheet.front()).frame, sheet, nullptr));
+    left->addWidget(fieldFrame(Caption(stiffener.front()).frame, stiffener, listed ? list_ : nullptr));
   } else if (family.type == 41) {
     // The general section's properties are what the engineer types: they fill the property frame.
-    typedProperties = fieldFrame("Section property", fields, nullptr);
+    typedProperties = fieldFrame(Caption(fields.front()).frame, fields, nullptr);
   } else if (!fields.empty()) {
-    left->addWidget(fieldFrame("Dimensions", fields, nullptr));
+    left->addWidget(fieldFrame(Caption(fields.front()).frame, fields, nullptr));
   }
   // The general section: its name, and the classes the engineer gives it.
   if (family.type == 41 && Session::knows(key("istname"))) {
-    auto* g = new QGroupBox("Section");
+    auto* g = new QGroupBox(Caption("istname").frame);
     auto* l = new QGridLayout(g);
     auto* nameEdit = new QLineEdit;
     nameEdit->setObjectName("istname");
     bindings_->textField(nameEdit, key("istname"));
-    l->addWidget(new QLabel("Name:"), 0, 0, Qt::AlignRight);
+    l->addWidget(new QLabel(Caption("istname").caption), 0, 0, Qt::AlignRight);
     l->addWidget(nameEdit, 0, 1, 1, 3);
-    l->addWidget(new QLabel("Cross Section Class:"), 1, 0, 1, 4);
+    l->addWidget(new QLabel(Caption("cboclassN").caption), 1, 0, 1, 4);
     int column = 0;
     for (const char* list : {"cboclassN", "cboclassMy", "cboclassMz"}) {
       auto* box = new QComboBox;
@@ -268,15 +261,16 @@ SectionDialog::SectionDialog(Session* session, const ProfileEntry& family, QWidg
   for (const DialogOption& o : kOptions) {
     if (form_ != o.form || !Session::knows(key(o.control))) continue;
     QVBoxLayout* box = nullptr;
+    const Captions c = Caption(o.control);
     for (auto& [caption, layout] : frames)
-      if (caption == o.frame) box = layout;
+      if (caption == c.frame) box = layout;
     if (!box) {
-      auto* g = new QGroupBox(o.frame);
+      auto* g = new QGroupBox(c.frame);
       box = new QVBoxLayout(g);
-      frames.emplace_back(o.frame, box);
+      frames.emplace_back(c.frame, box);
       left->addWidget(g);
     }
-    auto* option = new QRadioButton(o.caption);
+    auto* option = new QRadioButton(c.caption);
     option->setObjectName(o.control);
     bindings_->option(option, key(o.control), key(o.group), o.value);
     box->addWidget(option);

@@ -114,7 +114,7 @@ std::string RemovedLoads(const LoadsSeen& a, const LoadsSeen& b) {
 
 QString FamilyName(int type) {
   for (const ProfileEntry& e : kProfiles)
-    if (e.type == type) return QString(e.caption).remove('&').trimmed();
+    if (e.type == type) return ProfileTitle(e);
   return {};
 }
 

@@ -73,7 +73,7 @@ std::string GoverningLoadcaseText(const State& s) {
                              : p.LoadCombMode == 2               ? c.text610b
                              : s.analysis.GoverningEquation == 1 ? c.text610a
                                                                  : c.text610b;
-    return en1990(uls + "  (G favourable: gamma G,inf = 1.0)");
+    return en1990(uls + "  (G favourable: gamma G,inf = " + FormatNumber(1.0, "0.0", s.decimalComma) + ")");
   }
   switch (p.LoadCombMode) {
     case 0: return en1990(c.text610);

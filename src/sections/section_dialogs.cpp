@@ -200,6 +200,9 @@ void RegisterGeneralSectionControls(ControlTable& t, const SectionDialogInfo* d)
       r.recalculated = true;
       return r;
     });
+    t.SetEntries(d->form, list.name, [](const State&) {
+      return std::vector<std::string>{"1", "2", "3", "4"};
+    });
   }
 }
 

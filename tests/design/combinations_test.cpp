@@ -162,7 +162,11 @@ TEST(FormulaTexts, NumbersFollowTheDecimalSignOfTheLocale) {
   s.project.psiQ2 = PsiOfIndex(4);
   s.project.safetyClass = 1;
   SetCombinationFactors(s, 2);
-  EXPECT_EQ(s.comb.text610, "ULS: Eq 6.10: LC = 0,83*(1.35*G + 1.5*Q1 + 1.5*0,7*Q2)");
+  // Every number of the formula takes the comma, the fixed factors as well as psi and k: one line
+  // with both signs ("0,83*(1.35*G ... 1.5*0,7*Q2)") reads as two kinds of number. The equation's
+  // number before "LC =" is a clause and keeps its point.
+  EXPECT_EQ(s.comb.text610, "ULS: Eq 6.10: LC = 0,83*(1,35*G + 1,5*Q1 + 1,5*0,7*Q2)");
+  EXPECT_EQ(s.comb.text610a, "ULS: Eq 6.10a: LC = 0,83*(1,35*G + 1,5*0,7*Q1 + 1,5*0,5*Q2)");
 }
 
 TEST(LoadFactorTexts, UlsSlsAndBasicLoads) {
