@@ -282,6 +282,8 @@ constexpr Entry kTable[] = {
     {"vipping", "ic2", "C2i =", kLtbCapacity},
     {"vipping", "ic3", "C3i =", kLtbCapacity},
     {"vipping", "C1factor", "Alternative calculation of C1", kLtbCapacity},
+    {"vipping", "McrTables", kMcrTablesText, "Elastic critical moment Mcr"},
+    {"vipping", "McrEigen", kMcrEigenText, "Elastic critical moment Mcr"},
 
     // ---- More Results ----
     {"detailedresult", "cmdDetailedResult", "Export to spreadsheet..."},

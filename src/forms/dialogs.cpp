@@ -840,8 +840,8 @@ FormDialog* LtbDialog(Session* s, QWidget* owner) {
   // its moment diagram, load height, supports, k and restraints; what that found stands beside.
   auto* method = Group("Elastic critical moment Mcr");
   auto* ml = Inside<QHBoxLayout>(method);
-  ml->addWidget(Option(d, "McrTables", kMcrTablesText));
-  ml->addWidget(Option(d, "McrEigen", kMcrEigenText));
+  ml->addWidget(Option(d, "McrTables"));
+  ml->addWidget(Option(d, "McrEigen"));
   ml->addSpacing(12);
   ml->addWidget(Shown(d, "McrMethod"));
   ml->addStretch();
