@@ -29,6 +29,8 @@
 #include <string>
 #include <vector>
 
+#include "core/csv.h"
+
 namespace {
 
 // ---------------------------------------------------------------------------------------------
@@ -46,33 +48,7 @@ struct Table {
   }
 };
 
-Row SplitCsvLine(const std::string& line) {
-  Row cells;
-  std::string cell;
-  bool quoted = false;
-  for (size_t i = 0; i < line.size(); ++i) {
-    char c = line[i];
-    if (quoted) {
-      if (c == '"' && i + 1 < line.size() && line[i + 1] == '"') {
-        cell += '"';
-        ++i;
-      } else if (c == '"') {
-        quoted = false;
-      } else {
-        cell += c;
-      }
-    } else if (c == '"') {
-      quoted = true;
-    } else if (c == ',') {
-      cells.push_back(cell);
-      cell.clear();
-    } else {
-      cell += c;
-    }
-  }
-  cells.push_back(cell);
-  return cells;
-}
+Row SplitCsvLine(const std::string& line) { return vn::SplitCsvCells(line); }
 
 Table ReadCsv(const std::string& path) {
   std::ifstream in(path, std::ios::binary);

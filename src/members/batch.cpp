@@ -10,6 +10,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "core/csv.h"
 #include "core/events.h"
 #include "core/file_actions.h"
 #include "core/format.h"
@@ -40,32 +41,10 @@ std::string Trim(std::string_view t) {
   return std::string(t.substr(a, b - a));
 }
 
-// The cells of a line; a cell in double quotes may hold the separator, "" stands for a quote.
+// The cells of a line, each trimmed.
 std::vector<std::string> Cells(std::string_view line, char sep) {
-  std::vector<std::string> cells;
-  std::string cell;
-  bool quoted = false;
-  for (size_t i = 0; i < line.size(); ++i) {
-    const char c = line[i];
-    if (quoted) {
-      if (c == '"' && i + 1 < line.size() && line[i + 1] == '"') {
-        cell += '"';
-        ++i;
-      } else if (c == '"') {
-        quoted = false;
-      } else {
-        cell += c;
-      }
-    } else if (c == '"') {
-      quoted = true;
-    } else if (c == sep) {
-      cells.push_back(Trim(cell));
-      cell.clear();
-    } else {
-      cell += c;
-    }
-  }
-  cells.push_back(Trim(cell));
+  std::vector<std::string> cells = SplitCsvCells(line, sep);
+  for (std::string& c : cells) c = Trim(c);
   return cells;
 }
 
